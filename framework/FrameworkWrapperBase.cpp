@@ -1,0 +1,3 @@
+#include "FrameworkWrapperBase.h"
+
+FrameworkWrapperBase::~FrameworkWrapperBase() = default;

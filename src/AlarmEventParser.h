@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+#include <QVariantMap>
+
+// Reads one triggered-alarm event document into the values of the alarmTriggered signal. SetMessage
+// keeps the "AlarmNotification"/"Alarm" map; each getter derives its value from it again, and a missing
+// key always reads as an empty value.
+class AlarmEventParser
+{
+public:
+    void SetMessage(const QString& xml);
+
+    QVariantMap GetQuessaEventMap() const;
+    QString GetAlarmName() const;
+    QVariantMap GetTriggerMap() const;
+    QString GetTriggerType() const;
+    QString getTriggerValueTag(const QVariantMap& body) const;
+    QString GetTriggerEvent() const;
+    QString GetVCARuleName(const QVariantMap& rule) const;
+    QString GetVCAValue(const QVariantMap& vca) const;
+    QString GetTriggerValue() const;
+    QString GetDIOIndex() const;
+    QString GetNodeID() const;
+    qint64 GetServerTime() const;
+    qint64 parseServerTimestamp(const QVariant& value) const;
+    QString GetDeviceName() const;
+    QString GetAlarmId() const;
+    QString GetTimecardId() const;
+    bool Mute() const;
+
+private:
+    QString eventTypeAsSent() const;
+
+    QVariantMap m_alarm;
+};

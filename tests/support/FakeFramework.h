@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QSet>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVariantMap>
+
+#include <functional>
+
+#include "FrameworkWrapperBase.h"
+
+// One request as the plug-in handed it to the framework.
+struct RecordedRequest
+{
+    void* handle = nullptr;
+    QString senderPluginId;
+    QString method;
+    QVariant argument;
+    void* context = nullptr;
+    bool isBlocking = false;
+};
+
+// A peer plug-in object answering every lookup the alarm plug-in makes; each instance counts its calls
+// so a test can tell whether a peer was contacted at all.
+class FakePeer : public QObject
+{
+    Q_OBJECT
+public:
+    // deviceId -> (role name -> value), as the device tree serves it.
+    QHash<QString, QVariantMap> deviceTree;
+    QHash<int, QString> roleNames;
+    QString soundPath;
+    QVariantMap editionFeature;
+    int callCount = 0;
+
+    Q_INVOKABLE QVariant getValueFromModel(int kind, QString deviceId, QString roleName);
+    Q_INVOKABLE QString getRoleName(int roleId);
+    Q_INVOKABLE QString getSoundPath();
+    Q_INVOKABLE QVariantMap getEditionFeature();
+};
+
+// The host as the tests play it: records every request, refuses the sends a test chooses, and serves
+// the four peer plug-ins under their ids (the same FakePeer class for each, one instance per id).
+class FakeFramework : public FrameworkWrapperBase
+{
+public:
+    FakeFramework();
+    ~FakeFramework() override;
+
+    bool SendRequest(void* handle, const QString& senderPluginId, const QString& method, const QVariant& argument,
+                     void* context, bool blocking, QString& errorText) override;
+    QObject* GetPluginObject(void* handle, const QString& pluginId) override;
+
+    // Requests for which this returns true are refused (recorded all the same, in refusedRequests).
+    std::function<bool(const RecordedRequest&)> refuse;
+    void refuseMethod(const QString& method);
+    void refuseAll();
+
+    QList<RecordedRequest> requests;
+    QList<RecordedRequest> refusedRequests;
+    QStringList methods() const;
+    QList<RecordedRequest> requestsFor(const QString& method) const;
+
+    // Peers by plug-in id; remove an entry to simulate a peer that is not loaded.
+    QHash<QString, QObject*> peers;
+    FakePeer deviceTree;
+    FakePeer userRoles;
+    FakePeer soundPath;
+    FakePeer licence;
+};
