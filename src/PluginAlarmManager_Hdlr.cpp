@@ -133,9 +133,12 @@ void PluginAlarmManager::HandleGetAllAlarm(const QVariant& result, const QString
         emit getAlarmResp(false);
         return;
     }
-    // One insertion for the whole list: the proxies above re-map once instead of once per rule.
-    if (!rows.isEmpty())
+    // One insertion for the whole list: the proxies above re-map once instead of once per rule. The
+    // column comes first, so that views never see columns appear in the middle of a row insertion.
+    if (!rows.isEmpty()) {
+        m_alarmModel->setColumnCount(1);
         m_alarmModel->invisibleRootItem()->appendRows(rows);
+    }
     for (QStandardItem* item : std::as_const(rows)) {
         if (item->data(AlarmModel::enabledRole).toBool())
             insertViewCellTriggers(item->data(AlarmModel::idRole).toString(),

@@ -162,6 +162,11 @@ public:
     }
 };
 
+inline QString mapJson(const QVariantMap& map)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(map)).toJson(QJsonDocument::Compact));
+}
+
 // A model row as one JSON text keyed by role name, so a comparison shows every field that differs.
 inline QString rowJson(const QAbstractItemModel* model, int row)
 {
@@ -170,7 +175,7 @@ inline QString rowJson(const QAbstractItemModel* model, int row)
     const QModelIndex index = model->index(row, 0);
     for (auto it = names.cbegin(); it != names.cend(); ++it)
         roles.insert(QString::fromLatin1(it.value()), index.data(it.key()));
-    return QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(roles)).toJson(QJsonDocument::Compact));
+    return mapJson(roles);
 }
 
 // Any argument (null, number, list, map) as one JSON text, wrapped in an array.
