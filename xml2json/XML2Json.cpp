@@ -65,7 +65,8 @@ QVariant XML2Json::parse(const QString& xml)
     const QByteArray utf8 = xml.toUtf8();
 
     pugi::xml_document document;
-    const unsigned options = pugi::parse_default | pugi::parse_doctype;
+    // As a fragment, stray text beside the root shows up as a node we can reject instead of being skipped.
+    const unsigned options = pugi::parse_default | pugi::parse_doctype | pugi::parse_fragment;
     const pugi::xml_parse_result result = document.load_buffer(utf8.constData(), size_t(utf8.size()), options,
                                                                pugi::encoding_utf8);
     if (!result)
