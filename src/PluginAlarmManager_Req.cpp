@@ -72,7 +72,6 @@ QSortFilterProxyModel* PluginAlarmManager::getAlarmViewCellTriggerModel(const QS
         proxy->setSourceModel(viewCellTriggerModel(cameraId));
         proxy->setSortRole(AlarmViewCellTriggerModel::nameRole);
         proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
-        proxy->setSortLocaleAware(true);
         proxy->sort(0);
     }
     return proxy.data();
