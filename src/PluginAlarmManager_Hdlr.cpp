@@ -200,6 +200,8 @@ void PluginAlarmManager::HandleAddAlarm(const QVariant& result, const QString& r
         emit addAlarmResp(false, QString());
         return;
     }
+    if (m_alarmModel->columnCount() == 0)
+        m_alarmModel->setColumnCount(1);
     m_alarmModel->insertRow(0, item);
     emit addAlarmResp(true, alarmId);
 }
@@ -356,8 +358,11 @@ void PluginAlarmManager::HandleGetAlarmSoundContent(const QVariant& result, cons
                           returnCode.toLocal8Bit().constData());
         return;
     }
-    if (!m_audioFileManager)
+    // Without a folder the store would write beside the root of the file system.
+    if (!m_audioFileManager || m_audioFileManager->directoryPath().isEmpty()) {
+        ALARM_TRACE_ERROR("%s, no sound folder", "HandleGetAlarmSoundContent");
         return;
+    }
     const QVariantList sounds = result.toList();
     for (const QVariant& sound : sounds) {
         const QVariantMap soundMap = sound.toMap();
@@ -515,7 +520,8 @@ QString PluginAlarmManager::EscapeURL(const QString& url)
 
 QStandardItem* PluginAlarmManager::findAlarmItem(const QString& alarmId) const
 {
-    if (!m_alarmModel)
+    // An empty id, what a payload of the wrong shape reads as, names no alarm.
+    if (!m_alarmModel || alarmId.isEmpty())
         return nullptr;
     const int rowCount = m_alarmModel->rowCount();
     for (int row = 0; row < rowCount; ++row) {

@@ -37,6 +37,8 @@ private slots:
     void soundSyncAsksForMissingSounds();
     void soundContentIsSavedInsideTheSoundFolder();
     void failedSoundContentSavesNothing();
+    void soundContentWithoutFolderSavesNothing();
+    void addedAlarmStartsAnEmptyList();
 };
 
 namespace {
@@ -541,6 +543,33 @@ void tst_PluginAlarmManagerAnswers::failedSoundContentSavesNothing()
                    QVariantList{QVariantMap{{ARG_SOUND_NAME, "bell.mp3"}, {ARG_SOUND_CONTENT, "YmVlcA=="}}}, nullptr,
                    "1");
     QCOMPARE(QDir(soundFolder.path()).entryList(QDir::Files), QStringList());
+}
+
+void tst_PluginAlarmManagerAnswers::soundContentWithoutFolderSavesNothing()
+{
+    // Given no sound-path peer, so the store has no folder
+    PluginFixture fixture;
+    fixture.framework.peers.remove(SOUND_PATH_PLUGIN_ID);
+    fixture.plugin.LoadPairPluginDone();
+    const QString name = QStringLiteral("core-test-%1.mp3").arg(QCoreApplication::applicationPid());
+
+    // When sounds arrive, nothing is written at the top of the file system
+    fixture.answer(METHOD_GET_ALARM_SOUND_CONTENT,
+                   QVariantList{QVariantMap{{ARG_SOUND_NAME, name}, {ARG_SOUND_CONTENT, "YmVlcA=="}}}, nullptr);
+    QVERIFY(!QFile::exists(QStringLiteral("/") + name));
+}
+
+void tst_PluginAlarmManagerAnswers::addedAlarmStartsAnEmptyList()
+{
+    // Given an empty list, watched by a model tester
+    PluginFixture fixture;
+    fixture.answer(METHOD_GET_ALL_ALARM, QStringLiteral("<GetEvtTmcardRes/>"), nullptr);
+    QAbstractItemModelTester tester(fixture.plugin.getAlarmModel());
+    QVERIFY(fixture.plugin.addAlarm("Gate", "", "", "", "", "", ""));
+
+    // When the first alarm is added, it is the only row
+    fixture.answerLast(METHOD_ADD_ALARM, QVariantMap{{ARG_ALARM_ID, "n1"}});
+    QCOMPARE(column(fixture.plugin.getAlarmModel(), AlarmModel::nameRole), QStringList{"Gate"});
 }
 
 QTEST_MAIN(tst_PluginAlarmManagerAnswers)
