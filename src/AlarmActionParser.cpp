@@ -15,7 +15,8 @@ namespace {
 const QString ACTION_SENDMAIL_MSG = QStringLiteral(
     "<Action><SendMail><SenderName>%1</SenderName><From>%2</From><To>%3</To><Cc>%4</Cc>"
     "<Subject>%5</Subject><MailContent>%6</MailContent></SendMail></Action>");
-const QString ACTION_SMS_MSG = QStringLiteral("<Action><SMS><PhoneNum>%1</PhoneNum><Message>%2</Message></SMS></Action>");
+const QString ACTION_SMS_MSG =
+    QStringLiteral("<Action><SMS><PhoneNum>%1</PhoneNum><Message>%2</Message></SMS></Action>");
 const QString ACTION_HTTP_MSG = QStringLiteral(
     "<Action><HTTP><URL>%1</URL><NeedAuth>%2</NeedAuth><User>%3</User><Pwd>%4</Pwd></HTTP></Action>");
 const QString ACTION_RECORDING_MSG = QStringLiteral("<Action><Recording>%1</Recording></Action>");
@@ -62,6 +63,12 @@ QString textOf(const QVariant& value)
     return isContainer(value) ? QString() : value.toString();
 }
 
+// One child of an element map, or one key of a target map, as text.
+QString fieldOf(const QVariantMap& map, const QString& key)
+{
+    return textOf(map.value(key));
+}
+
 // Base 10, 0 for anything that is not a 32-bit number (QVariant::toInt would wrap larger values).
 int integerOf(const QVariant& value)
 {
@@ -105,8 +112,7 @@ QVariantMap firstTargetOf(const QVariant& actionTarget)
 // An element that may carry attributes: its "#text" when it does, the element itself when it is text.
 QString elementTextOf(const QVariant& element)
 {
-    return element.canConvert<QVariantMap>() ? textOf(element.toMap().value(QStringLiteral("#text")))
-                                              : textOf(element);
+    return element.canConvert<QVariantMap>() ? fieldOf(element.toMap(), QStringLiteral("#text")) : textOf(element);
 }
 
 QVariantMap actionModel(const QString& actionType, const QVariantList& targets)
@@ -114,6 +120,7 @@ QVariantMap actionModel(const QString& actionType, const QVariantList& targets)
     return {{KEY_ACTION_TYPE, actionType}, {KEY_ACTION_TARGET, targets}};
 }
 
+// Without a manager (a codec used on its own) names are empty and outputs get the lookup's own fallback.
 QString displayNameOf(PluginAlarmManager* manager, const QString& deviceId)
 {
     return manager ? manager->queryDisplayName(deviceId) : QString();
@@ -161,13 +168,13 @@ QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant& a
     const QVariantMap mail = typeElementOf(action, ACTION_TYPE_SENDMAIL);
     const QVariantMap snapshotCameras = childrenOf(mail.value(QStringLiteral("SnapshotCameraList")));
     const QVariantMap target{
-        {KEY_TARGET_NAME, textOf(mail.value(QStringLiteral("To")))},
+        {KEY_TARGET_NAME, fieldOf(mail, QStringLiteral("To"))},
         {KEY_TARGET_ACTION, QString()},
-        {QStringLiteral("senderName"), textOf(mail.value(QStringLiteral("SenderName")))},
-        {QStringLiteral("from"), textOf(mail.value(QStringLiteral("From")))},
-        {QStringLiteral("cc"), textOf(mail.value(QStringLiteral("Cc")))},
-        {QStringLiteral("subject"), textOf(mail.value(QStringLiteral("Subject")))},
-        {QStringLiteral("content"), textOf(mail.value(QStringLiteral("MailContent")))},
+        {QStringLiteral("senderName"), fieldOf(mail, QStringLiteral("SenderName"))},
+        {QStringLiteral("from"), fieldOf(mail, QStringLiteral("From"))},
+        {QStringLiteral("cc"), fieldOf(mail, QStringLiteral("Cc"))},
+        {QStringLiteral("subject"), fieldOf(mail, QStringLiteral("Subject"))},
+        {QStringLiteral("content"), fieldOf(mail, QStringLiteral("MailContent"))},
         {QStringLiteral("snapshotCameraList"), transContentAsList(snapshotCameras.value(QStringLiteral("Camera")))},
     };
     return actionModel(ACTION_TYPE_SENDMAIL, {target});
@@ -176,21 +183,21 @@ QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant& a
 QString SendMailActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_SENDMAIL_MSG.arg(textOf(target.value(QStringLiteral("senderName"))))
-        .arg(textOf(target.value(QStringLiteral("from"))))
-        .arg(textOf(target.value(KEY_TARGET_NAME)))
-        .arg(textOf(target.value(QStringLiteral("cc"))))
-        .arg(textOf(target.value(QStringLiteral("subject"))))
-        .arg(textOf(target.value(QStringLiteral("content"))));
+    return ACTION_SENDMAIL_MSG.arg(fieldOf(target, QStringLiteral("senderName")))
+        .arg(fieldOf(target, QStringLiteral("from")))
+        .arg(fieldOf(target, KEY_TARGET_NAME))
+        .arg(fieldOf(target, QStringLiteral("cc")))
+        .arg(fieldOf(target, QStringLiteral("subject")))
+        .arg(fieldOf(target, QStringLiteral("content")));
 }
 
 QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
     const QVariantMap sms = typeElementOf(action, ACTION_TYPE_SMS);
     const QVariantMap target{
-        {KEY_TARGET_NAME, textOf(sms.value(QStringLiteral("PhoneNum")))},
+        {KEY_TARGET_NAME, fieldOf(sms, QStringLiteral("PhoneNum"))},
         {KEY_TARGET_ACTION, QString()},
-        {QStringLiteral("message"), textOf(sms.value(QStringLiteral("Message")))},
+        {QStringLiteral("message"), fieldOf(sms, QStringLiteral("Message"))},
     };
     return actionModel(ACTION_TYPE_SMS, {target});
 }
@@ -198,7 +205,7 @@ QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action
 QString SMSActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_SMS_MSG.arg(textOf(target.value(KEY_TARGET_NAME))).arg(textOf(target.value(QStringLiteral("message"))));
+    return ACTION_SMS_MSG.arg(fieldOf(target, KEY_TARGET_NAME)).arg(fieldOf(target, QStringLiteral("message")));
 }
 
 QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
@@ -208,13 +215,13 @@ QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant& actio
     // The list shows the method where other actions show their target, and the URL as the action.
     const QVariantMap target{
         {KEY_TARGET_NAME, isPost ? QStringLiteral("POST Method") : QStringLiteral("GET Method")},
-        {KEY_TARGET_ACTION, textOf(http.value(QStringLiteral("URL")))},
-        {QStringLiteral("needAuth"), textOf(http.value(QStringLiteral("NeedAuth")))},
-        {QStringLiteral("user"), textOf(http.value(QStringLiteral("User")))},
-        {QStringLiteral("pwd"), textOf(http.value(QStringLiteral("Pwd")))},
+        {KEY_TARGET_ACTION, fieldOf(http, QStringLiteral("URL"))},
+        {QStringLiteral("needAuth"), fieldOf(http, QStringLiteral("NeedAuth"))},
+        {QStringLiteral("user"), fieldOf(http, QStringLiteral("User"))},
+        {QStringLiteral("pwd"), fieldOf(http, QStringLiteral("Pwd"))},
         {QStringLiteral("post"), isPost},
-        {QStringLiteral("contentType"), textOf(http.value(QStringLiteral("ContentType")))},
-        {QStringLiteral("httpContent"), textOf(http.value(QStringLiteral("HTTPContent")))},
+        {QStringLiteral("contentType"), fieldOf(http, QStringLiteral("ContentType"))},
+        {QStringLiteral("httpContent"), fieldOf(http, QStringLiteral("HTTPContent"))},
     };
     return actionModel(ACTION_TYPE_HTTP, {target});
 }
@@ -224,10 +231,10 @@ QString HTTPActionParser::ActionTargetToXml(const QVariant& actionTarget)
     // The editor puts the URL under "target" when it encodes; method and body are not part of the
     // written action.
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_HTTP_MSG.arg(textOf(target.value(KEY_TARGET_NAME)))
-        .arg(textOf(target.value(QStringLiteral("needAuth"))))
-        .arg(textOf(target.value(QStringLiteral("user"))))
-        .arg(textOf(target.value(QStringLiteral("pwd"))));
+    return ACTION_HTTP_MSG.arg(fieldOf(target, KEY_TARGET_NAME))
+        .arg(fieldOf(target, QStringLiteral("needAuth")))
+        .arg(fieldOf(target, QStringLiteral("user")))
+        .arg(fieldOf(target, QStringLiteral("pwd")));
 }
 
 // ---- Recording, preset, digital output: one target per camera, preset or output ----
@@ -241,7 +248,7 @@ QMap<QString, QVariant> RecordingActionParser::XmlToActionModel(const QVariant& 
         // A camera without a group attribute belongs to group 0.
         const bool hasAttributes = camera.canConvert<QVariantMap>();
         const QString camId = elementTextOf(camera);
-        const QString grpId = hasAttributes ? textOf(camera.toMap().value(QStringLiteral("@GrpID"))) : QStringLiteral("0");
+        const QString grpId = hasAttributes ? fieldOf(camera.toMap(), QStringLiteral("@GrpID")) : QStringLiteral("0");
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, displayNameOf(manager, camId)},
             {KEY_TARGET_ACTION, QString()},
@@ -258,7 +265,7 @@ QString RecordingActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantList targets = targetListOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = childrenOf(targetValue);
-        cameras += CAM_ENTRY.arg(textOf(target.value(QStringLiteral("grpId"))), textOf(target.value(KEY_CAMERA_ID)));
+        cameras += CAM_ENTRY.arg(fieldOf(target, QStringLiteral("grpId")), fieldOf(target, KEY_CAMERA_ID));
     }
     return ACTION_RECORDING_MSG.arg(cameras);
 }
@@ -270,12 +277,12 @@ QMap<QString, QVariant> PresetActionParser::XmlToActionModel(const QVariant& act
     const QVariantList entries = transContentAsList(preset.value(QStringLiteral("Entry")));
     for (const QVariant& entryValue : entries) {
         const QVariantMap entry = childrenOf(entryValue);
-        const QString camId = textOf(entry.value(QStringLiteral("Name")));
+        const QString camId = fieldOf(entry, QStringLiteral("Name"));
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, displayNameOf(manager, camId)},
             {KEY_TARGET_ACTION, QString()},
             {KEY_CAMERA_ID, camId},
-            {QStringLiteral("pos"), textOf(entry.value(QStringLiteral("Pos")))},
+            {QStringLiteral("pos"), fieldOf(entry, QStringLiteral("Pos"))},
         });
     }
     return actionModel(ACTION_TYPE_PRESET, targets);
@@ -287,7 +294,7 @@ QString PresetActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantList targets = targetListOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = childrenOf(targetValue);
-        entries += PRESETLOC_ENTRY.arg(textOf(target.value(KEY_CAMERA_ID)), textOf(target.value(QStringLiteral("pos"))));
+        entries += PRESETLOC_ENTRY.arg(fieldOf(target, KEY_CAMERA_ID), fieldOf(target, QStringLiteral("pos")));
     }
     return ACTION_PRESETLOCMOVE_MSG.arg(entries);
 }
@@ -299,7 +306,7 @@ QMap<QString, QVariant> SetDOActionParser::XmlToActionModel(const QVariant& acti
     const QVariantList devices = transContentAsList(setDo.value(QStringLiteral("Entry")));
     for (const QVariant& deviceValue : devices) {
         const QVariantMap device = childrenOf(deviceValue);
-        const QString deviceId = textOf(device.value(QStringLiteral("Name")));
+        const QString deviceId = fieldOf(device, QStringLiteral("Name"));
         const QString deviceName = displayNameOf(manager, deviceId);
         const QVariantList outputs = transContentAsList(device.value(QStringLiteral("DO")));
         for (const QVariant& outputValue : outputs) {
@@ -310,7 +317,7 @@ QMap<QString, QVariant> SetDOActionParser::XmlToActionModel(const QVariant& acti
                 {KEY_TARGET_NAME, deviceName},
                 {KEY_TARGET_ACTION, ACTION_TYPE_SETDO},
                 {QStringLiteral("index"), outputNameOf(manager, deviceId, ioIndex)},
-                {QStringLiteral("value"), textOf(output.value(QStringLiteral("Val")))},
+                {QStringLiteral("value"), fieldOf(output, QStringLiteral("Val"))},
                 {QStringLiteral("period"), integerOf(output.value(QStringLiteral("Period")))},
                 {KEY_CAMERA_ID, deviceId},
                 {QStringLiteral("ioIndex"), ioIndex},
@@ -329,8 +336,8 @@ QString SetDOActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantList targets = targetListOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = childrenOf(targetValue);
-        deviceId = textOf(target.value(KEY_CAMERA_ID));
-        outputs += DO_ENTRY.arg(textOf(target.value(QStringLiteral("index"))), textOf(target.value(QStringLiteral("value"))));
+        deviceId = fieldOf(target, KEY_CAMERA_ID);
+        outputs += DO_ENTRY.arg(fieldOf(target, QStringLiteral("index")), fieldOf(target, QStringLiteral("value")));
     }
     return ACTION_SETDO_MSG.arg(deviceId).arg(outputs);
 }
@@ -344,7 +351,7 @@ QMap<QString, QVariant> ClientNotifyGotoLiveStreamActionParser::XmlToActionModel
         childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(QStringLiteral("PopupWindow")));
     QVariantList targets;
     // Only the exact text "true" counts; the "1" this plug-in writes reads as not set.
-    if (textOf(popup.value(QStringLiteral("IncludeTriggerCam"))) == QLatin1String("true")) {
+    if (fieldOf(popup, QStringLiteral("IncludeTriggerCam")) == QLatin1String("true")) {
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, triggerCameraText()},
             {KEY_TARGET_ACTION, QString()},
@@ -375,10 +382,10 @@ QString ClientNotifyGotoLiveStreamActionParser::ActionTargetToXml(const QVariant
     const QVariantList targets = targetListOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = childrenOf(targetValue);
-        if (textOf(target.value(KEY_TARGET_NAME)) == triggerCamera)
+        if (fieldOf(target, KEY_TARGET_NAME) == triggerCamera)
             includesTriggerCamera = true;
         else
-            cameras += NOTIFI_CAM_ENTRY.arg(textOf(target.value(KEY_CAMERA_ID)));
+            cameras += NOTIFI_CAM_ENTRY.arg(fieldOf(target, KEY_CAMERA_ID));
     }
     // The flag is written as a number, which the decoder deliberately does not read as set.
     return ACTION_CLIENTNOTIFICATION_MSG.arg(includesTriggerCamera ? 1 : 0).arg(cameras);
@@ -393,7 +400,7 @@ QMap<QString, QVariant> ClientNotifyGotoEMapActionParser::XmlToActionModel(const
         if (!mapValue.isValid())
             continue;
         const QVariantMap mapInfo = childrenOf(mapValue);
-        const QString mapId = textOf(mapInfo.value(QStringLiteral("MapId")));
+        const QString mapId = fieldOf(mapInfo, QStringLiteral("MapId"));
         // Map ids carry a one-character kind prefix that the list does not show.
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, transformTargetName(mapId.mid(1))},
@@ -446,14 +453,14 @@ QMap<QString, QVariant> AddBookmarkAlarmActionParser::XmlToActionModel(const QVa
         const QVariantMap camera = childrenOf(cameraValue);
         // The rule stores the camera's name itself; no lookup.
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, textOf(camera.value(QStringLiteral("CamRefName")))},
+            {KEY_TARGET_NAME, fieldOf(camera, QStringLiteral("CamRefName"))},
             {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, textOf(camera.value(QStringLiteral("CamId")))},
-            {QStringLiteral("locId"), textOf(camera.value(QStringLiteral("LocId")))},
-            {QStringLiteral("duration"), textOf(camera.value(QStringLiteral("Duration")))},
-            {QStringLiteral("creator"), textOf(camera.value(QStringLiteral("Creator")))},
-            {QStringLiteral("description"), textOf(camera.value(QStringLiteral("Description")))},
-            {QStringLiteral("group"), textOf(camera.value(QStringLiteral("Group")))},
+            {KEY_CAMERA_ID, fieldOf(camera, QStringLiteral("CamId"))},
+            {QStringLiteral("locId"), fieldOf(camera, QStringLiteral("LocId"))},
+            {QStringLiteral("duration"), fieldOf(camera, QStringLiteral("Duration"))},
+            {QStringLiteral("creator"), fieldOf(camera, QStringLiteral("Creator"))},
+            {QStringLiteral("description"), fieldOf(camera, QStringLiteral("Description"))},
+            {QStringLiteral("group"), fieldOf(camera, QStringLiteral("Group"))},
         });
     }
     return actionModel(ACTION_TYPE_ADDBOOKMARK, targets);
@@ -473,8 +480,8 @@ QMap<QString, QVariant> PlayIPAudioAlarmActionParser::XmlToActionModel(const QVa
         const QVariantMap device = childrenOf(deviceValue);
         // The file to play is what is done to the device, so it stands under "action".
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, textOf(device.value(QStringLiteral("IPAudioName")))},
-            {KEY_TARGET_ACTION, textOf(device.value(QStringLiteral("AudioFileName")))},
+            {KEY_TARGET_NAME, fieldOf(device, QStringLiteral("IPAudioName"))},
+            {KEY_TARGET_ACTION, fieldOf(device, QStringLiteral("AudioFileName"))},
             {QStringLiteral("fileId"), integerOf(device.value(QStringLiteral("AudioFileId")))},
             {QStringLiteral("ipAudioId"), integerOf(device.value(QStringLiteral("IPAudioId")))},
         });
@@ -575,7 +582,7 @@ QSharedPointer<IActionParser> ActionParserFactory::GetActionParser(const QMap<QS
         return makeParser<SetDOActionParser>();
     if (action.contains(ACTION_TYPE_CLIENTNOTIFY)) {
         const QString notificationType =
-            textOf(childrenOf(action.value(ACTION_TYPE_CLIENTNOTIFY)).value(QStringLiteral("Type")));
+            fieldOf(childrenOf(action.value(ACTION_TYPE_CLIENTNOTIFY)), QStringLiteral("Type"));
         if (notificationType == NOTIFY_TYPE_POPUP)
             return makeParser<ClientNotifyGotoLiveStreamActionParser>();
         if (notificationType == NOTIFY_TYPE_EMAP)
