@@ -140,9 +140,12 @@ void PluginAlarmManager::HandleGetAllAlarm(const QVariant& result, const QString
         m_alarmModel->invisibleRootItem()->appendRows(rows);
     }
     for (QStandardItem* item : std::as_const(rows)) {
-        if (item->data(AlarmModel::enabledRole).toBool())
-            insertViewCellTriggers(item->data(AlarmModel::idRole).toString(),
-                                   parsedMap(item->data(AlarmModel::triggerXmlRole)));
+        if (!item->data(AlarmModel::enabledRole).toBool())
+            continue;
+        // Most rules have no virtual trigger; their trigger text need not be parsed again.
+        const QString triggerXml = item->data(AlarmModel::triggerXmlRole).toString();
+        if (triggerXml.contains(virtualTriggerElement))
+            insertViewCellTriggers(item->data(AlarmModel::idRole).toString(), parsedMap(triggerXml));
     }
     emit getAlarmResp(true);
 }
