@@ -36,5 +36,7 @@ bool AudioFileManager::save(const QString& name, const QByteArray& data)
 
 QStringList AudioFileManager::getFileList()
 {
+    if (m_directoryPath.isEmpty())
+        return {};
     return QDir(m_directoryPath).entryList({SOUND_FILE_PATTERN}, QDir::Files, QDir::NoSort);
 }

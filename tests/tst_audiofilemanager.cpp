@@ -42,7 +42,7 @@ private slots:
     void saveOverwritesWithoutTruncating();
     void saveFailsWhenNameIsADirectory();
     void releaseRemovesEverything();
-    void releaseWithoutPathLeavesCurrentDirectory();
+    void storeWithoutPathLeavesCurrentDirectoryAlone();
 };
 
 void tst_AudioFileManager::initialOnExistingDirectoryCreatesNothing()
@@ -204,7 +204,7 @@ void tst_AudioFileManager::releaseRemovesEverything()
     QVERIFY(store.save("a.mp3", "ID3"));
 }
 
-void tst_AudioFileManager::releaseWithoutPathLeavesCurrentDirectory()
+void tst_AudioFileManager::storeWithoutPathLeavesCurrentDirectoryAlone()
 {
     // Given a store that was never given a directory, run inside a scratch working directory
     QTemporaryDir root;
@@ -214,11 +214,13 @@ void tst_AudioFileManager::releaseWithoutPathLeavesCurrentDirectory()
     QVERIFY(QDir::setCurrent(root.path()));
     AudioFileManager store;
 
-    // When it is released
+    // When it lists and is released
+    const QStringList names = store.getFileList();
     store.release();
     QVERIFY(QDir::setCurrent(previous));
 
-    // Then the working directory was not touched
+    // Then it saw nothing there and removed nothing
+    QCOMPARE(names, QStringList());
     QVERIFY(QFileInfo::exists(root.filePath("keep.mp3")));
 }
 
