@@ -11,6 +11,13 @@ const QString KEY_DISPLAY_VALUE = QStringLiteral("displayValue");
 const QString KEY_TARGET = QStringLiteral("target");
 const QString KEY_ACTION = QStringLiteral("action");
 
+// Lists as the display proxy gives them; a text, which QVariant would split into characters, is no list.
+QVariantList listOf(const QVariant& value)
+{
+    const int type = value.typeId();
+    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
+}
+
 bool containsKeyword(const QString& text, const QString& keyword)
 {
     return text.contains(keyword, Qt::CaseInsensitive);
@@ -19,7 +26,7 @@ bool containsKeyword(const QString& text, const QString& keyword)
 // The "target" of the first map of one action's target list.
 QString firstTarget(const QVariant& actionTargets)
 {
-    const QVariantList targets = actionTargets.toList();
+    const QVariantList targets = listOf(actionTargets);
     return targets.isEmpty() ? QString() : targets.constFirst().toMap().value(KEY_TARGET).toString();
 }
 
@@ -79,7 +86,7 @@ bool AlarmSortFilterModel::actionTypeListMatches(const QVariantList& list, const
 bool AlarmSortFilterModel::actionTargetListMatches(const QVariantList& list, const QString& keyword) const
 {
     return std::any_of(list.cbegin(), list.cend(), [&keyword](const QVariant& element) {
-        const QVariantList targets = element.toList();
+        const QVariantList targets = listOf(element);
         return std::any_of(targets.cbegin(), targets.cend(), [&keyword](const QVariant& targetElement) {
             const QVariantMap target = targetElement.toMap();
             return containsKeyword(target.value(KEY_TARGET).toString(), keyword)
@@ -127,11 +134,11 @@ bool AlarmSortFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& so
         for (; fieldsRead < field; ++fieldsRead) {
             switch (fieldsRead) {
             case 0: name = row.data(AlarmModel::nameRole).toString(); break;
-            case 1: triggerSources = row.data(AlarmModel::triggerSourceRole).toList(); break;
+            case 1: triggerSources = listOf(row.data(AlarmModel::triggerSourceRole)); break;
             case 2: triggerType = row.data(AlarmModel::triggerTypeRole).toString(); break;
-            case 3: actionTypes = row.data(AlarmModel::actionTypeRole).toList(); break;
-            case 4: actionTargets = row.data(AlarmModel::actionTargetRole).toList(); break;
-            default: schedule = row.data(AlarmModel::scheduleRole).toList(); break;
+            case 3: actionTypes = listOf(row.data(AlarmModel::actionTypeRole)); break;
+            case 4: actionTargets = listOf(row.data(AlarmModel::actionTargetRole)); break;
+            default: schedule = listOf(row.data(AlarmModel::scheduleRole)); break;
             }
         }
     };
@@ -167,17 +174,17 @@ bool AlarmSortFilterModel::lessThan(const QModelIndex& left, const QModelIndex& 
     const QVariant rightValue = right.data(role);
     switch (role) {
     case AlarmModel::triggerSourceRole:
-        return triggerSourceLessThan(leftValue.toList(), rightValue.toList());
+        return triggerSourceLessThan(listOf(leftValue), listOf(rightValue));
     case AlarmModel::actionTypeRole:
-        return actionTypeLessThan(leftValue.toList(), rightValue.toList());
+        return actionTypeLessThan(listOf(leftValue), listOf(rightValue));
     case AlarmModel::actionTargetRole:
-        return actionTargetLessThan(leftValue.toList(), rightValue.toList());
+        return actionTargetLessThan(listOf(leftValue), listOf(rightValue));
     case AlarmModel::scheduleRole: {
-        const QVariantList leftSchedule = leftValue.toList();
+        const QVariantList leftSchedule = listOf(leftValue);
         if (!leftValue.isValid() || leftSchedule.isEmpty())
             return false;
         // An empty right schedule counts as a schedule named "".
-        const QVariantList rightSchedule = rightValue.toList();
+        const QVariantList rightSchedule = listOf(rightValue);
         const QString rightName = rightSchedule.isEmpty() ? QString() : rightSchedule.constFirst().toString();
         return leftSchedule.constFirst().toString() < rightName;
     }

@@ -36,6 +36,14 @@ const QString KEY_PUSH_ALL = QStringLiteral("pushAll");
 const QString IO_KIND_OUTPUT = QStringLiteral("DO");
 constexpr int IO_KIND_OUTPUT_NUMBER = 1;
 
+// A list stored under a role or inside one; anything else, a text included (which QVariant would split into
+// characters), reads as no list at all.
+QVariantList listOf(const QVariant& value)
+{
+    const int type = value.typeId();
+    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
+}
+
 bool isDisplayRole(int role)
 {
     return role >= AlarmModel::triggerSourceRole && role <= AlarmModel::actionTargetRole;
@@ -161,14 +169,14 @@ QVariant AlarmTranslatedModel::buildDisplayValue(const QModelIndex& sourceIndex,
 {
     switch (role) {
     case AlarmModel::triggerSourceRole:
-        return translatedTriggerSourceType(sourceIndex.data(AlarmModel::triggerSourceRole).toList());
+        return translatedTriggerSourceType(listOf(sourceIndex.data(AlarmModel::triggerSourceRole)));
     case AlarmModel::triggerTypeRole:
         return triggerTypeText(sourceIndex.data(AlarmModel::triggerTypeRole).toString(),
-                               sourceIndex.data(AlarmModel::triggerSourceRole).toList());
+                               listOf(sourceIndex.data(AlarmModel::triggerSourceRole)));
     case AlarmModel::actionTypeRole:
-        return translatedActionType(sourceIndex.data(AlarmModel::actionTypeRole).toList());
+        return translatedActionType(listOf(sourceIndex.data(AlarmModel::actionTypeRole)));
     default:
-        return translatedActionTarget(sourceIndex.data(AlarmModel::actionTargetRole).toList());
+        return translatedActionTarget(listOf(sourceIndex.data(AlarmModel::actionTargetRole)));
     }
 }
 
@@ -406,8 +414,8 @@ QVariantList AlarmTranslatedModel::translatedActionTarget(const QVariantList& ta
     display.reserve(targetList.size());
     for (const QVariant& element : targetList) {
         const QVariantList targets = element.typeId() == QMetaType::QVariantMap
-                                         ? element.toMap().value(KEY_ACTION_TARGET).toList()
-                                         : element.toList();
+                                         ? listOf(element.toMap().value(KEY_ACTION_TARGET))
+                                         : listOf(element);
         QVariantList actionDisplay;
         actionDisplay.reserve(targets.size());
         for (const QVariant& target : targets)
