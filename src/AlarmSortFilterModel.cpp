@@ -11,6 +11,9 @@ const QString KEY_DISPLAY_VALUE = QStringLiteral("displayValue");
 const QString KEY_TARGET = QStringLiteral("target");
 const QString KEY_ACTION = QStringLiteral("action");
 
+// Stands between the texts of one row in its search text; a keyword holding it is matched text by text.
+constexpr QChar SEARCH_SEPARATOR = QChar(0x1F);
+
 // Lists as the display proxy gives them; a text, which QVariant would split into characters, is no list.
 QVariantList listOf(const QVariant& value)
 {
@@ -18,31 +21,93 @@ QVariantList listOf(const QVariant& value)
     return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
 }
 
-bool containsKeyword(const QString& text, const QString& keyword)
+// The texts a keyword is looked for in, per display shape.
+QStringList triggerSourceTexts(const QVariantList& list)
 {
-    return text.contains(keyword, Qt::CaseInsensitive);
+    QStringList texts;
+    for (const QVariant& element : list) {
+        const QVariantMap source = element.toMap();
+        texts << source.value(KEY_DEV_NAME).toString() << source.value(KEY_DISPLAY_VALUE).toString();
+    }
+    return texts;
 }
 
-// The "target" of the first map of one action's target list.
-QString firstTarget(const QVariant& actionTargets)
+QStringList elementTexts(const QVariantList& list)
 {
-    const QVariantList targets = listOf(actionTargets);
-    return targets.isEmpty() ? QString() : targets.constFirst().toMap().value(KEY_TARGET).toString();
+    QStringList texts;
+    texts.reserve(list.size());
+    for (const QVariant& element : list)
+        texts << element.toString();
+    return texts;
 }
 
-// Walks both lists in step; the first differing key decides, and a list that is a prefix of the other sorts
-// first. An empty list against a non-empty one is the same prefix rule.
-template <typename KeyOf>
-bool lexicographicallyLess(const QVariantList& a, const QVariantList& b, KeyOf keyOf)
+QStringList actionTargetTexts(const QVariantList& list)
+{
+    QStringList texts;
+    for (const QVariant& element : list) {
+        const QVariantList targets = listOf(element);
+        for (const QVariant& targetElement : targets) {
+            const QVariantMap target = targetElement.toMap();
+            texts << target.value(KEY_TARGET).toString() << target.value(KEY_ACTION).toString();
+        }
+    }
+    return texts;
+}
+
+bool anyContains(const QStringList& texts, const QString& keyword)
+{
+    return std::any_of(texts.cbegin(), texts.cend(),
+                       [&keyword](const QString& text) { return text.contains(keyword, Qt::CaseInsensitive); });
+}
+
+// Sort keys: the texts a row is ordered by, compared position by position.
+QStringList triggerSourceKey(const QVariantList& list)
+{
+    // Only the first source names the rule's origin in the list; the rest do not take part.
+    if (list.isEmpty())
+        return {};
+    return {list.constFirst().toMap().value(KEY_DEV_NAME).toString()};
+}
+
+QStringList actionTargetKey(const QVariantList& list)
+{
+    QStringList key;
+    key.reserve(list.size());
+    for (const QVariant& element : list) {
+        const QVariantList targets = listOf(element);
+        key << (targets.isEmpty() ? QString() : targets.constFirst().toMap().value(KEY_TARGET).toString());
+    }
+    return key;
+}
+
+QStringList scheduleKey(const QVariant& value)
+{
+    const QVariantList schedule = listOf(value);
+    if (schedule.isEmpty())
+        return {};
+    return {schedule.constFirst().toString()};
+}
+
+// The first differing text decides, by character code; a key that is a prefix of the other sorts first, so
+// an empty list sorts before any other.
+bool keyLess(const QStringList& a, const QStringList& b)
 {
     const qsizetype common = std::min(a.size(), b.size());
     for (qsizetype i = 0; i < common; ++i) {
-        const QString left = keyOf(a.at(i));
-        const QString right = keyOf(b.at(i));
-        if (left != right)
-            return left < right;
+        const int order = a.at(i).compare(b.at(i), Qt::CaseSensitive);
+        if (order != 0)
+            return order < 0;
     }
     return a.size() < b.size();
+}
+
+// A rule without a schedule is never less, and against one it counts as a schedule named "", which no
+// name sorts before.
+bool scheduleKeyLess(const QStringList& a, const QStringList& b)
+{
+    if (a.isEmpty())
+        return false;
+    return a.constFirst() < (b.isEmpty() ? QString() : b.constFirst());
 }
 
 } // namespace
@@ -54,10 +119,39 @@ AlarmSortFilterModel::AlarmSortFilterModel(QObject* parent)
 
 AlarmSortFilterModel::~AlarmSortFilterModel() = default;
 
+void AlarmSortFilterModel::setSourceModel(QAbstractItemModel* newSourceModel)
+{
+    for (const QMetaObject::Connection& connection : std::as_const(m_sourceConnections))
+        disconnect(connection);
+    m_sourceConnections.clear();
+    m_rows.clear();
+
+    // Connected before the base class connects its own handling, so that the kept texts and keys are right
+    // by the time it filters and sorts the changed rows.
+    if (newSourceModel) {
+        m_sourceConnections = {
+            connect(newSourceModel, &QAbstractItemModel::dataChanged, this, &AlarmSortFilterModel::forgetChangedRows),
+            connect(newSourceModel, &QAbstractItemModel::rowsInserted, this, &AlarmSortFilterModel::makeRoomForRows),
+            connect(newSourceModel, &QAbstractItemModel::rowsRemoved, this, &AlarmSortFilterModel::dropRows),
+            connect(newSourceModel, &QAbstractItemModel::rowsMoved, this, &AlarmSortFilterModel::forgetAll),
+            connect(newSourceModel, &QAbstractItemModel::layoutChanged, this, &AlarmSortFilterModel::forgetAll),
+            connect(newSourceModel, &QAbstractItemModel::modelAboutToBeReset, this, &AlarmSortFilterModel::forgetAll),
+            connect(newSourceModel, &QAbstractItemModel::modelReset, this, &AlarmSortFilterModel::forgetAll),
+        };
+    }
+    QSortFilterProxyModel::setSourceModel(newSourceModel);
+}
+
 void AlarmSortFilterModel::applyFilter(const QString& filterString)
 {
     // Split at every single blank, empty parts kept: an empty keyword matches every row.
     m_keywords = filterString.split(QLatin1Char(' '), Qt::KeepEmptyParts);
+    m_foldedKeywords.clear();
+    m_keywordsHoldSeparator = false;
+    for (const QString& keyword : std::as_const(m_keywords)) {
+        m_foldedKeywords << keyword.toCaseFolded();
+        m_keywordsHoldSeparator = m_keywordsHoldSeparator || keyword.contains(SEARCH_SEPARATOR);
+    }
     invalidateFilter();
     sort(0, sortOrder());
 }
@@ -70,126 +164,136 @@ void AlarmSortFilterModel::sortByRole(int role, Qt::SortOrder order)
 
 bool AlarmSortFilterModel::triggerSourceListMatches(const QVariantList& list, const QString& keyword) const
 {
-    return std::any_of(list.cbegin(), list.cend(), [&keyword](const QVariant& element) {
-        const QVariantMap source = element.toMap();
-        return containsKeyword(source.value(KEY_DEV_NAME).toString(), keyword)
-               || containsKeyword(source.value(KEY_DISPLAY_VALUE).toString(), keyword);
-    });
+    return anyContains(triggerSourceTexts(list), keyword);
 }
 
 bool AlarmSortFilterModel::actionTypeListMatches(const QVariantList& list, const QString& keyword) const
 {
-    return std::any_of(list.cbegin(), list.cend(),
-                       [&keyword](const QVariant& element) { return containsKeyword(element.toString(), keyword); });
+    return anyContains(elementTexts(list), keyword);
 }
 
 bool AlarmSortFilterModel::actionTargetListMatches(const QVariantList& list, const QString& keyword) const
 {
-    return std::any_of(list.cbegin(), list.cend(), [&keyword](const QVariant& element) {
-        const QVariantList targets = listOf(element);
-        return std::any_of(targets.cbegin(), targets.cend(), [&keyword](const QVariant& targetElement) {
-            const QVariantMap target = targetElement.toMap();
-            return containsKeyword(target.value(KEY_TARGET).toString(), keyword)
-                   || containsKeyword(target.value(KEY_ACTION).toString(), keyword);
-        });
-    });
+    return anyContains(actionTargetTexts(list), keyword);
 }
 
 bool AlarmSortFilterModel::triggerSourceLessThan(const QVariantList& a, const QVariantList& b) const
 {
-    if (a.isEmpty() || b.isEmpty())
-        return a.size() < b.size();
-    // Only the first source names the rule's origin in the list; the rest do not take part.
-    return a.constFirst().toMap().value(KEY_DEV_NAME).toString() < b.constFirst().toMap().value(KEY_DEV_NAME).toString();
+    return keyLess(triggerSourceKey(a), triggerSourceKey(b));
 }
 
 bool AlarmSortFilterModel::actionTypeLessThan(const QVariantList& a, const QVariantList& b) const
 {
-    return lexicographicallyLess(a, b, [](const QVariant& type) { return type.toString(); });
+    return keyLess(elementTexts(a), elementTexts(b));
 }
 
 bool AlarmSortFilterModel::actionTargetLessThan(const QVariantList& a, const QVariantList& b) const
 {
-    return lexicographicallyLess(a, b, firstTarget);
+    return keyLess(actionTargetKey(a), actionTargetKey(b));
+}
+
+QStringList AlarmSortFilterModel::rowTexts(const QModelIndex& row) const
+{
+    // In the order a keyword is tried: name, trigger sources, trigger type, action types, action targets,
+    // schedule. The schedule is a list of strings, like the action types.
+    return QStringList{row.data(AlarmModel::nameRole).toString()}
+           + triggerSourceTexts(listOf(row.data(AlarmModel::triggerSourceRole)))
+           + QStringList{row.data(AlarmModel::triggerTypeRole).toString()}
+           + elementTexts(listOf(row.data(AlarmModel::actionTypeRole)))
+           + actionTargetTexts(listOf(row.data(AlarmModel::actionTargetRole)))
+           + elementTexts(listOf(row.data(AlarmModel::scheduleRole)));
+}
+
+QStringList AlarmSortFilterModel::sortKey(const QModelIndex& row, int role) const
+{
+    const QVariant value = row.data(role);
+    switch (role) {
+    case AlarmModel::triggerSourceRole: return triggerSourceKey(listOf(value));
+    case AlarmModel::actionTypeRole: return elementTexts(listOf(value));
+    case AlarmModel::actionTargetRole: return actionTargetKey(listOf(value));
+    case AlarmModel::scheduleRole: return scheduleKey(value);
+    default: return {value.toString()};
+    }
+}
+
+AlarmSortFilterModel::RowCache* AlarmSortFilterModel::cacheOf(const QModelIndex& sourceRow,
+                                                            const QModelIndex& sourceParent) const
+{
+    // The alarm list is flat; rows of any deeper level are worked out on each call.
+    if (!sourceRow.isValid() || sourceParent.isValid() || !sourceModel())
+        return nullptr;
+    const size_t row = static_cast<size_t>(sourceRow.row());
+    if (row >= m_rows.size())
+        m_rows.resize(static_cast<size_t>(sourceModel()->rowCount()));
+    return row < m_rows.size() ? &m_rows[row] : nullptr;
 }
 
 bool AlarmSortFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    if (m_keywords.isEmpty())
+    if (m_keywords.isEmpty() || !sourceModel())
         return true;
-    const QAbstractItemModel* model = sourceModel();
-    if (!model)
-        return true;
-    const QModelIndex row = model->index(sourceRow, 0, sourceParent);
+    const QModelIndex row = sourceModel()->index(sourceRow, 0, sourceParent);
 
-    // Each field is read at most once per row, and only when some keyword got that far.
-    QString name;
-    QVariantList triggerSources;
-    QString triggerType;
-    QVariantList actionTypes;
-    QVariantList actionTargets;
-    QVariantList schedule;
-    int fieldsRead = 0;
-    const auto readUpTo = [&](int field) {
-        for (; fieldsRead < field; ++fieldsRead) {
-            switch (fieldsRead) {
-            case 0: name = row.data(AlarmModel::nameRole).toString(); break;
-            case 1: triggerSources = listOf(row.data(AlarmModel::triggerSourceRole)); break;
-            case 2: triggerType = row.data(AlarmModel::triggerTypeRole).toString(); break;
-            case 3: actionTypes = listOf(row.data(AlarmModel::actionTypeRole)); break;
-            case 4: actionTargets = listOf(row.data(AlarmModel::actionTargetRole)); break;
-            default: schedule = listOf(row.data(AlarmModel::scheduleRole)); break;
-            }
-        }
-    };
-
-    for (const QString& keyword : m_keywords) {
-        readUpTo(1);
-        if (containsKeyword(name, keyword))
-            continue;
-        readUpTo(2);
-        if (triggerSourceListMatches(triggerSources, keyword))
-            continue;
-        readUpTo(3);
-        if (containsKeyword(triggerType, keyword))
-            continue;
-        readUpTo(4);
-        if (actionTypeListMatches(actionTypes, keyword))
-            continue;
-        readUpTo(5);
-        if (actionTargetListMatches(actionTargets, keyword))
-            continue;
-        readUpTo(6);
-        if (actionTypeListMatches(schedule, keyword)) // a list of strings, like the action types
-            continue;
-        return false;
+    RowCache* cache = cacheOf(row, sourceParent);
+    if (!cache || m_keywordsHoldSeparator) {
+        const QStringList texts = rowTexts(row);
+        return std::all_of(m_keywords.cbegin(), m_keywords.cend(),
+                           [&texts](const QString& keyword) { return anyContains(texts, keyword); });
     }
-    return true;
+    if (cache->searchText.isEmpty())
+        cache->searchText = rowTexts(row).join(SEARCH_SEPARATOR).toCaseFolded();
+    // Folded on both sides, a plain search ignores case as a case-insensitive one would.
+    const QString& searchText = cache->searchText;
+    return std::all_of(m_foldedKeywords.cbegin(), m_foldedKeywords.cend(),
+                       [&searchText](const QString& keyword) { return searchText.contains(keyword); });
 }
 
 bool AlarmSortFilterModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     const int role = sortRole();
-    const QVariant leftValue = left.data(role);
-    const QVariant rightValue = right.data(role);
-    switch (role) {
-    case AlarmModel::triggerSourceRole:
-        return triggerSourceLessThan(listOf(leftValue), listOf(rightValue));
-    case AlarmModel::actionTypeRole:
-        return actionTypeLessThan(listOf(leftValue), listOf(rightValue));
-    case AlarmModel::actionTargetRole:
-        return actionTargetLessThan(listOf(leftValue), listOf(rightValue));
-    case AlarmModel::scheduleRole: {
-        const QVariantList leftSchedule = listOf(leftValue);
-        if (!leftValue.isValid() || leftSchedule.isEmpty())
-            return false;
-        // An empty right schedule counts as a schedule named "".
-        const QVariantList rightSchedule = listOf(rightValue);
-        const QString rightName = rightSchedule.isEmpty() ? QString() : rightSchedule.constFirst().toString();
-        return leftSchedule.constFirst().toString() < rightName;
-    }
-    default:
-        // By character code, so upper case sorts before lower case.
-        return leftValue.toString() < rightValue.toString();
-    }
+    // Both rows of one comparison share their parent.
+    const QModelIndex parent = left.parent();
+    const auto keyOf = [this, role, &parent](const QModelIndex& row) {
+        RowCache* cache = cacheOf(row, parent);
+        if (!cache)
+            return sortKey(row, role);
+        if (cache->sortKeyRole != role) {
+            cache->sortKey = sortKey(row, role);
+            cache->sortKeyRole = role;
+        }
+        return cache->sortKey;
+    };
+    const QStringList leftKey = keyOf(left);
+    const QStringList rightKey = keyOf(right);
+    return role == AlarmModel::scheduleRole ? scheduleKeyLess(leftKey, rightKey) : keyLess(leftKey, rightKey);
+}
+
+void AlarmSortFilterModel::forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight)
+{
+    if (!topLeft.isValid() || !bottomRight.isValid() || topLeft.parent().isValid())
+        return;
+    const size_t end = std::min(m_rows.size(), static_cast<size_t>(bottomRight.row()) + 1);
+    for (size_t row = static_cast<size_t>(topLeft.row()); row < end; ++row)
+        m_rows[row] = RowCache();
+}
+
+void AlarmSortFilterModel::makeRoomForRows(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid() || first < 0 || last < first || static_cast<size_t>(first) > m_rows.size())
+        return;
+    m_rows.insert(m_rows.begin() + first, static_cast<size_t>(last - first + 1), RowCache());
+}
+
+void AlarmSortFilterModel::dropRows(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid() || first < 0 || last < first)
+        return;
+    const size_t begin = std::min(m_rows.size(), static_cast<size_t>(first));
+    const size_t end = std::min(m_rows.size(), static_cast<size_t>(last) + 1);
+    m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(begin), m_rows.begin() + static_cast<std::ptrdiff_t>(end));
+}
+
+void AlarmSortFilterModel::forgetAll()
+{
+    m_rows.clear();
 }

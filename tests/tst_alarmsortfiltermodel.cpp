@@ -22,6 +22,7 @@ private slots:
     void listComparisons();
     void filterFollowsRowChanges();
     void applyFilterKeepsTheSortOrder();
+    void sortFollowsRowChanges();
 };
 
 namespace {
@@ -78,6 +79,12 @@ void addRules(AlarmModel& model)
     model.appendRow(alarmRow("Zeta", {}, "", {}, {}, {"Always", "success", "{}"}));
 }
 
+// A fifth rule, for the filter table: a name beyond ASCII and no schedule.
+void addNonAsciiRule(AlarmModel& model)
+{
+    model.appendRow(alarmRow(QStringLiteral("über alles"), {}, "", {}, {}, {}));
+}
+
 QStringList names(const QAbstractItemModel& model)
 {
     QStringList shown;
@@ -110,7 +117,7 @@ void tst_AlarmSortFilterModel::filter_data()
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("shown");
 
-    const QStringList all{"Front door", "Back door", "alpha", "Zeta"};
+    const QStringList all{"Front door", "Back door", "alpha", "Zeta", QStringLiteral("über alles")};
     QTest::newRow("empty filter shows every rule") << "" << all;
     QTest::newRow("blanks only are empty keywords") << "  " << all;
     QTest::newRow("name") << "door" << QStringList{"Front door", "Back door"};
@@ -124,9 +131,11 @@ void tst_AlarmSortFilterModel::filter_data()
     QTest::newRow("mail target text") << "to: guard" << QStringList{"Front door"};
     QTest::newRow("output action text") << "siren trigger" << QStringList{"Back door"};
     QTest::newRow("schedule name") << "night" << QStringList{"Back door"};
-    QTest::newRow("schedule status") << "success" << all;
+    QTest::newRow("schedule status") << "success" << QStringList{"Front door", "Back door", "alpha", "Zeta"};
     QTest::newRow("nothing matches") << "zzz" << QStringList();
     QTest::newRow("one keyword of two matches nothing") << "door zzz" << QStringList();
+    QTest::newRow("a keyword never spans two texts") << QStringLiteral("door\u001Flobby") << QStringList();
+    QTest::newRow("case folding beyond ascii") << QStringLiteral("ÜBER") << QStringList{"über alles"};
 }
 
 void tst_AlarmSortFilterModel::filter()
@@ -135,6 +144,7 @@ void tst_AlarmSortFilterModel::filter()
     QFETCH(QStringList, shown);
 
     Chain chain;
+    addNonAsciiRule(chain.source);
     chain.list.applyFilter(filter);
 
     QCOMPARE(names(chain.list), shown);
@@ -294,6 +304,34 @@ void tst_AlarmSortFilterModel::applyFilterKeepsTheSortOrder()
     QCOMPARE(names(chain.list), QStringList({"Front door", "Back door"}));
     QCOMPARE(chain.list.sortOrder(), Qt::DescendingOrder);
     QCOMPARE(layoutChanges.count(), 0);
+}
+
+void tst_AlarmSortFilterModel::sortFollowsRowChanges()
+{
+    // Given the list sorted by first trigger device
+    Chain chain;
+    chain.list.sortByRole(AlarmModel::triggerSourceRole, Qt::AscendingOrder);
+    QCOMPARE(names(chain.list), QStringList({"Zeta", "Front door", "alpha", "Back door"}));
+
+    // When a rule's first device is renamed, a rule is added and another removed
+    chain.source.item(0)->setData(QVariantList{trigger("Zoo", "DI", 1, "High")}, AlarmModel::triggerSourceRole);
+    chain.source.insertRow(0, alarmRow("Attic", {trigger("Attic", "Motion", 1)}, "Motion", {}, {}, {}));
+    chain.source.removeRow(4);
+
+    // Then the order follows
+    QCOMPARE(names(chain.list), QStringList({"Attic", "alpha", "Back door", "Front door"}));
+
+    // When the source reorders its rows, then is emptied and refilled
+    chain.source.setSortRole(AlarmModel::nameRole);
+    chain.source.sort(0, Qt::DescendingOrder);
+    QCOMPARE(names(chain.list), QStringList({"Attic", "alpha", "Back door", "Front door"}));
+    chain.source.clear();
+    addRules(chain.source);
+
+    // Then the order is that of the new rows, and another role sorts by its own keys
+    QCOMPARE(names(chain.list), QStringList({"Zeta", "Front door", "alpha", "Back door"}));
+    chain.list.sortByRole(AlarmModel::actionTargetRole, Qt::AscendingOrder);
+    QCOMPARE(names(chain.list), QStringList({"Zeta", "alpha", "Back door", "Front door"}));
 }
 
 QTEST_MAIN(tst_AlarmSortFilterModel)
