@@ -4,7 +4,7 @@
 <context>
     <name>QObject</name>
     <message>
-        <location filename="../src/AlarmTranslatedModel.cpp" line="+76"/>
+        <location filename="../src/AlarmTranslatedModel.cpp" line="+84"/>
         <source>%1 %2</source>
         <translation>%1 %2</translation>
     </message>
@@ -495,12 +495,14 @@
         <translation>GET 方法</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location filename="../src/AlarmActionParser.cpp" line="+142"/>
+        <location filename="../src/AlarmTranslatedModel.cpp" line="+3"/>
         <source>Event triggering camera</source>
         <translation>觸發事件的攝影機</translation>
     </message>
     <message>
-        <location line="+2"/>
+        <location line="+362"/>
+        <location filename="../src/AlarmTranslatedModel.cpp" line="+2"/>
         <source>All roles</source>
         <translation>所有角色</translation>
     </message>
