@@ -5,8 +5,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QHash>
-#include <QThread>
 
 #include "AlarmModel.h"
 #include "stdafx.h"
@@ -32,7 +30,7 @@ const QString KEY_IO_INDEX = QStringLiteral("ioIndex");
 const QString KEY_INCLUDE_TRIGGER_CAM = QStringLiteral("includeTriggerCam");
 const QString KEY_PUSH_ALL = QStringLiteral("pushAll");
 
-// Words the server reports in the "value" of status and system triggers, and the I/O kinds of "typeDIO".
+// The output kind of "typeDIO"; every other kind is an input.
 const QString IO_KIND_OUTPUT = QStringLiteral("DO");
 constexpr int IO_KIND_OUTPUT_NUMBER = 1;
 
