@@ -444,6 +444,19 @@ void tst_PluginAlarmManagerRequests::loadedPluginListsAlarmsEndToEnd()
     }
     QVERIFY(model);
     QCOMPARE(column(model, AlarmModel::idRole), QStringList({"11", "12", "13"}));
+
+    // And each camera's view cell offers the virtual triggers of the enabled rules only
+    QStringList offered;
+    for (const QString camera : {"cam1", "cam2"}) {
+        QSortFilterProxyModel* viewCell = nullptr;
+        QVERIFY(QMetaObject::invokeMethod(plugin, "getAlarmViewCellTriggerModel",
+                                          Q_RETURN_ARG(QSortFilterProxyModel*, viewCell), Q_ARG(QString, camera)));
+        QVERIFY(viewCell);
+        for (int row = 0; row < viewCell->rowCount(); ++row)
+            offered.append(camera + ": " + viewCell->index(row, 0).data(AlarmViewCellTriggerModel::idRole).toString()
+                           + "/" + viewCell->index(row, 0).data(AlarmViewCellTriggerModel::nameRole).toString());
+    }
+    QCOMPARE(offered, QStringList{"cam1: 11/Open gate"});
 }
 
 QTEST_MAIN(tst_PluginAlarmManagerRequests)
