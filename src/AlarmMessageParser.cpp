@@ -108,11 +108,6 @@ bool isOneOf(const QString& value, std::initializer_list<QLatin1String> candidat
 
 // ---- Rule XML texts without a DOM ------------------------------------------------------------------
 
-void appendIndent(QString& out, int depth)
-{
-    out.append(QString(depth * 4, QLatin1Char(' ')));
-}
-
 // Escaping exactly as QDomNode::save writes text and attribute values.
 void appendEncoded(QString& out, QStringView text, bool isAttribute)
 {
@@ -192,7 +187,7 @@ public:
                     m_texts.clear();
                     return true;
                 }
-                startElement(reader.qualifiedName(), reader.attributes());
+                startElement(reader);
                 break;
             case QXmlStreamReader::EndElement:
                 endElement();
@@ -208,7 +203,7 @@ public:
             case QXmlStreamReader::ProcessingInstruction:
                 if (!m_open.isEmpty())
                     return false;
-                otherNode();
+                beginChild(false);
                 break;
             case QXmlStreamReader::EntityReference:
                 return false;
@@ -225,16 +220,19 @@ public:
     QList<Texts> takeTexts() { return std::move(m_texts); }
 
 private:
+    // One list being written. Its text grows in a reused buffer and is copied out at its exact size once
+    // the line break after it is decided.
     struct Recorder
     {
         qsizetype rule;
         bool isActionList;
         qsizetype rootLevel;
+        QString text;
     };
 
     struct Level
     {
-        QString name;
+        QString name; // kept only inside a recorded list, where the end tag is written
         bool isStartTagOpen = true;
         bool hasChild = false;
         bool isLastChildText = false;
@@ -245,23 +243,36 @@ private:
         QList<Recorder> awaitingLineBreak; // recorded lists that ended here, before their trailing break
     };
 
-    QString& out(const Recorder& recorder)
-    {
-        Texts& texts = m_texts[recorder.rule];
-        return recorder.isActionList ? texts.actionXml : texts.triggerXml;
-    }
-
     void write(QStringView piece)
     {
-        for (const Recorder& recorder : std::as_const(m_open))
-            out(recorder).append(piece);
+        for (Recorder& recorder : m_open)
+            recorder.text.append(piece);
+    }
+
+    static void appendIndent(QString& out, qsizetype depth)
+    {
+        static const QString spaces(4 * (XML2Json::maxDepth + 1), QLatin1Char(' '));
+        out.append(QStringView(spaces).left(4 * depth));
     }
 
     // Indentation of a node whose parent is the innermost open element.
     void writeChildIndent()
     {
-        for (const Recorder& recorder : std::as_const(m_open))
-            appendIndent(out(recorder), int(m_levels.size() - recorder.rootLevel + 1));
+        for (Recorder& recorder : m_open)
+            appendIndent(recorder.text, m_levels.size() - recorder.rootLevel + 1);
+    }
+
+    void finish(QList<Recorder>& recorders, bool withLineBreak)
+    {
+        for (Recorder& recorder : recorders) {
+            if (withLineBreak)
+                recorder.text.append(QLatin1Char('\n'));
+            Texts& texts = m_texts[recorder.rule];
+            (recorder.isActionList ? texts.actionXml : texts.triggerXml) = QString(recorder.text.constData(), recorder.text.size());
+            recorder.text.truncate(0);
+            m_buffers.append(std::move(recorder.text));
+        }
+        recorders.clear();
     }
 
     // Everything a new child of the innermost element decides about what stands before it.
@@ -273,15 +284,10 @@ private:
         if (parent.isStartTagOpen) {
             write(isText ? u">" : u">\n");
             parent.isStartTagOpen = false;
-        } else if (parent.hasPendingLineBreak) {
-            if (!isText) {
-                write(u"\n");
-                for (const Recorder& recorder : std::as_const(parent.awaitingLineBreak))
-                    out(recorder).append(QLatin1Char('\n'));
-            }
-            parent.hasPendingLineBreak = false;
+        } else if (parent.hasPendingLineBreak && !isText) {
+            write(u"\n");
         }
-        parent.awaitingLineBreak.clear();
+        finish(parent.awaitingLineBreak, !isText);
         if (!isText && !(parent.hasChild && parent.isLastChildText))
             writeChildIndent();
         parent.hasChild = true;
@@ -289,39 +295,39 @@ private:
         parent.hasPendingLineBreak = !isText;
     }
 
-    void startElement(QStringView name, const QXmlStreamAttributes& attributes)
+    void startElement(const QXmlStreamReader& reader)
     {
-        if (!m_levels.isEmpty()) {
+        const QStringView name = reader.qualifiedName();
+        if (!m_levels.isEmpty() && m_levels.last().rule >= 0) {
             Level& parent = m_levels.last();
-            if (parent.rule >= 0) {
-                const bool isTriggerList = !parent.hasTriggerList && name == u"TriggerList";
-                const bool isActionList = !parent.hasActionList && name == u"ActionList";
+            const bool isTriggerList = !parent.hasTriggerList && name == u"TriggerList";
+            const bool isActionList = !parent.hasActionList && name == u"ActionList";
+            if (isTriggerList || isActionList) {
                 parent.hasTriggerList = parent.hasTriggerList || isTriggerList;
                 parent.hasActionList = parent.hasActionList || isActionList;
-                if (isTriggerList || isActionList) {
-                    const bool followsText = parent.hasChild && parent.isLastChildText;
-                    beginChild(false);
-                    // The list's own text starts here, with the indentation beginChild wrote for the others.
-                    m_open.append(Recorder{parent.rule, isActionList, m_levels.size()});
-                    if (!followsText)
-                        appendIndent(out(m_open.last()), 1);
-                    pushElement(name, attributes);
-                    return;
-                }
+                const bool followsText = parent.hasChild && parent.isLastChildText;
+                beginChild(false);
+                // The list's own text starts here, after what beginChild wrote for the lists around it.
+                m_open.append(Recorder{parent.rule, isActionList, m_levels.size(), m_buffers.isEmpty() ? QString() : m_buffers.takeLast()});
+                if (!followsText)
+                    appendIndent(m_open.last().text, 1);
+                pushElement(reader);
+                return;
             }
         }
         beginChild(false);
-        pushElement(name, attributes);
+        pushElement(reader);
     }
 
-    void pushElement(QStringView name, const QXmlStreamAttributes& attributes)
+    void pushElement(const QXmlStreamReader& reader)
     {
+        const QStringView name = reader.qualifiedName();
         Level level;
         if (!m_open.isEmpty()) {
-            level.name = name.toString(); // only a recorded element writes its end tag
+            level.name = name.toString();
             write(u"<");
             write(name);
-            writeAttributes(attributes);
+            writeAttributes(reader.attributes());
         }
         if (name == u"Tmcard") {
             level.rule = m_texts.size();
@@ -347,13 +353,12 @@ private:
 
     void writeAttribute(const QXmlStreamAttribute& attribute)
     {
-        for (const Recorder& recorder : std::as_const(m_open)) {
-            QString& text = out(recorder);
-            text.append(QLatin1Char(' '));
-            text.append(attribute.qualifiedName());
-            text.append(QLatin1String("=\""));
-            appendEncoded(text, attribute.value(), true);
-            text.append(QLatin1Char('"'));
+        for (Recorder& recorder : m_open) {
+            recorder.text.append(QLatin1Char(' '));
+            recorder.text.append(attribute.qualifiedName());
+            recorder.text.append(QLatin1String("=\""));
+            appendEncoded(recorder.text, attribute.value(), true);
+            recorder.text.append(QLatin1Char('"'));
         }
     }
 
@@ -363,46 +368,37 @@ private:
         if (level.isStartTagOpen) {
             write(u"/>");
         } else {
-            if (level.hasPendingLineBreak) {
+            if (level.hasPendingLineBreak)
                 write(u"\n");
-                for (const Recorder& recorder : std::as_const(level.awaitingLineBreak))
-                    out(recorder).append(QLatin1Char('\n'));
-            }
+            finish(level.awaitingLineBreak, true);
             if (!level.isLastChildText) {
-                for (const Recorder& recorder : std::as_const(m_open))
-                    appendIndent(out(recorder), int(m_levels.size() - recorder.rootLevel + 1));
+                for (Recorder& recorder : m_open)
+                    appendIndent(recorder.text, m_levels.size() - recorder.rootLevel + 1);
             }
             write(u"</");
             write(level.name);
             write(u">");
         }
-        if (!m_open.isEmpty() && m_open.last().rootLevel == m_levels.size()) {
-            const Recorder closed = m_open.takeLast();
-            if (!m_levels.isEmpty())
-                m_levels.last().awaitingLineBreak.append(closed);
-        }
+        if (!m_open.isEmpty() && m_open.last().rootLevel == m_levels.size())
+            m_levels.last().awaitingLineBreak.append(m_open.takeLast());
     }
 
     void text(QStringView value, bool isCData)
     {
         beginChild(true);
-        if (m_open.isEmpty())
-            return;
         if (isCData) {
             write(u"<![CDATA[");
             write(value);
             write(u"]]>");
             return;
         }
-        for (const Recorder& recorder : std::as_const(m_open))
-            appendEncoded(out(recorder), value, false);
+        for (Recorder& recorder : m_open)
+            appendEncoded(recorder.text, value, false);
     }
 
     void comment(QStringView value)
     {
         beginChild(false);
-        if (m_open.isEmpty())
-            return;
         write(u"<!--");
         write(value);
         if (value.endsWith(u'-'))
@@ -410,11 +406,10 @@ private:
         write(u"-->");
     }
 
-    void otherNode() { beginChild(false); }
-
     QList<Level> m_levels;
     QList<Recorder> m_open;
     QList<Texts> m_texts;
+    QList<QString> m_buffers;
 };
 
 } // namespace
