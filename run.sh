@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(cmake ninja-build g++ pkg-config
-          qt6-base-dev libpugixml-dev libbenchmark-dev)
+          qt6-base-dev qt6-tools-dev qt6-l10n-tools libpugixml-dev libbenchmark-dev)
 
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
