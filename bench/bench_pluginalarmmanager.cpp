@@ -5,6 +5,7 @@
 
 #include <ctime>
 
+#include "AlarmDocumentGenerator.h"
 #include "FakeFramework.h"
 #include "PluginAlarmManager.h"
 #include "stdafx.h"
@@ -18,44 +19,12 @@ using namespace PluginAlarmManagerCommon;
 
 namespace {
 
-QString ruleXml(int i)
-{
-    const int camera = i % 40;
-    return QStringLiteral(
-               "<Tmcard><TmcardID>%1</TmcardID><Revision>%4</Revision><Name>Rule%20%1</Name>"
-               "<Enabled>%5</Enabled><Description>Door%20%1%20watch</Description>"
-               "<Mapping><Ele><Frame><Name>Office%20hours</Name><DayList><Ele B=\"2\"/><Ele B=\"3\"/>"
-               "<Ele B=\"4\"/></DayList><Intervals><Ele B=\"28800\" E=\"64800\"/></Intervals></Frame></Ele>"
-               "</Mapping><TriggerList><CamEventTrigger><CamName>cam%2</CamName><EventType>Motion</EventType>"
-               "<Rule><Latency>10</Latency></Rule><Motion><Index>1</Index></Motion></CamEventTrigger>"
-               "<StatusEventTrigger><EventType>CamConn</EventType><Rule><Latency>0</Latency></Rule>"
-               "<CamConn><CamName>cam%2</CamName><State>Lost</State></CamConn></StatusEventTrigger>"
-               "<ExtDeviceEventTrigger><EventType>VirtualTrigger</EventType><VirtualTrigger><Name>Panic%20%1</Name>"
-               "<Camera>cam%2</Camera><IconType>2</IconType><Rule><Latency>0</Latency></Rule></VirtualTrigger>"
-               "</ExtDeviceEventTrigger></TriggerList>"
-               "<ActionList><Action><SendMail><SenderName>VMS</SenderName><From>vms@site</From><To>guard@site</To>"
-               "<Cc/><Subject>Alarm %1</Subject><MailContent>Check camera</MailContent></SendMail></Action>"
-               "<Action><Recording><Cam GrpID=\"1\">cam%2</Cam><Cam>cam%3</Cam></Recording></Action>"
-               "<Action><ClientNotification><Type>Popup Window</Type><PopupWindow><IncludeTriggerCam>true"
-               "</IncludeTriggerCam><Cam ShowMotion=\"0\">cam%3</Cam></PopupWindow></ClientNotification></Action>"
-               "</ActionList></Tmcard>")
-        .arg(i)
-        .arg(camera)
-        .arg((camera + 1) % 40)
-        .arg(1 + i % 9)
-        .arg(i % 5 == 0 ? QStringLiteral("false") : QStringLiteral("true"));
-}
-
 const QString& alarmList(int ruleCount)
 {
     static QHash<int, QString> documents;
     QString& document = documents[ruleCount];
-    if (document.isEmpty()) {
-        document = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?><GetEvtTmcardRes>");
-        for (int i = 0; i < ruleCount; ++i)
-            document += ruleXml(i);
-        document += QStringLiteral("</GetEvtTmcardRes>");
-    }
+    if (document.isEmpty())
+        document = AlarmDocumentGenerator::alarmListXml(ruleCount);
     return document;
 }
 
