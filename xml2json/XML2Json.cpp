@@ -1,5 +1,6 @@
 #include "XML2Json.h"
 
+#include <QHash>
 #include <QVariantMap>
 
 #include <pugixml.hpp>
@@ -51,6 +52,9 @@ private:
     std::unordered_map<std::string_view, QString> m_attributeNames;
 };
 
+// Above this many children of one element, repeated tags are gathered through a hash.
+constexpr std::ptrdiff_t manySiblings = 64;
+
 bool isText(const pugi::xml_node& node)
 {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
@@ -67,22 +71,34 @@ QVariant finishElement(Frame& frame, std::vector<Child>& children, NameTable& na
         return QVariant(std::move(frame.text));
 
     QVariantMap map;
-    for (auto child = begin; child != end; ++child) {
-        if (child->name.isNull())
-            continue; // already gathered into an earlier sibling's list
-        auto repeat = std::find_if(child + 1, end, [&](const Child& other) { return other.name == child->name; });
-        if (repeat == end) {
-            map.insert(child->name, std::move(child->value));
-            continue;
-        }
-        QVariantList list{std::move(child->value)};
-        for (; repeat != end; ++repeat) {
-            if (repeat->name == child->name) {
-                list.append(std::move(repeat->value));
-                repeat->name = QString();
+    if (end - begin > manySiblings) {
+        // The pass below compares each sibling with every later one; thousands of distinct tags (which no
+        // server document has, but a hostile one may) would make it quadratic, so many are grouped by hash.
+        QHash<QString, QVariantList> groups;
+        groups.reserve(qsizetype(end - begin));
+        for (auto child = begin; child != end; ++child)
+            groups[child->name].append(std::move(child->value));
+        for (auto group = groups.begin(); group != groups.end(); ++group)
+            map.insert(group.key(), group->size() == 1 ? std::move(group->first()) : QVariant(std::move(*group)));
+    } else {
+        for (auto child = begin; child != end; ++child) {
+            if (child->name.isNull())
+                continue; // already gathered into an earlier sibling's list
+            auto repeat =
+                std::find_if(child + 1, end, [&](const Child& other) { return other.name == child->name; });
+            if (repeat == end) {
+                map.insert(child->name, std::move(child->value));
+                continue;
             }
+            QVariantList list{std::move(child->value)};
+            for (; repeat != end; ++repeat) {
+                if (repeat->name == child->name) {
+                    list.append(std::move(repeat->value));
+                    repeat->name = QString();
+                }
+            }
+            map.insert(child->name, QVariant(std::move(list)));
         }
-        map.insert(child->name, QVariant(std::move(list)));
     }
     children.erase(begin, end);
 
