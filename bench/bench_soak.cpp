@@ -86,7 +86,8 @@ int main(int argc, char** argv)
     report("start", eventsSent, reloadsSent, plugin.getAlarmModel()->rowCount(), triggered, clock);
     for (int slice = 1; slice <= slices; ++slice) {
         for (; eventsSent < qint64(eventCount) * slice / slices; ++eventsSent)
-            plugin.EventProcessor(EVENT_TYPE_ALARM_TRIGGERED, 0, 0, 0, events.at(eventsSent % events.size()), QString());
+            plugin.EventProcessor(EVENT_TYPE_ALARM_TRIGGERED, 0, 0, 0, events.at(eventsSent % events.size()),
+                                  QString());
         for (; reloadsSent < qint64(reloadCount) * slice / slices; ++reloadsSent) {
             plugin.getAllAlarm();
             const RecordedRequest request = framework.requests.takeLast();

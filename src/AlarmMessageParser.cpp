@@ -161,6 +161,47 @@ void appendEncoded(QString& out, QStringView text, bool isAttribute)
     out.append(text.mid(runStart));
 }
 
+// Qt's XML readers check each attribute of a start tag against every earlier one, so a tag with many
+// thousands of attributes stalls the GUI thread for seconds. No server writes more than a few per element;
+// a document with a tag over this many gets no rule texts. The document is well-formed (the tree was read),
+// so outside comments, CDATA and processing instructions a "<" opens a tag and a quote in a tag opens a value.
+constexpr qsizetype maxAttributesPerElement = 64;
+
+bool hasAttributeFlood(const QString& xml)
+{
+    static const QList<QPair<QLatin1String, QLatin1String>> skipped{
+        {QLatin1String("<!--"), QLatin1String("-->")},
+        {QLatin1String("<![CDATA["), QLatin1String("]]>")},
+        {QLatin1String("<?"), QLatin1String("?>")},
+    };
+    const qsizetype size = xml.size();
+    for (qsizetype i = xml.indexOf(QLatin1Char('<')); i >= 0 && i < size; i = xml.indexOf(QLatin1Char('<'), i)) {
+        const auto construct = std::find_if(skipped.cbegin(), skipped.cend(), [&](const auto& bounds) {
+            return QStringView(xml).mid(i).startsWith(bounds.first);
+        });
+        if (construct != skipped.cend()) {
+            const qsizetype end = xml.indexOf(construct->second, i + construct->first.size());
+            if (end < 0)
+                return false;
+            i = end + construct->second.size();
+            continue;
+        }
+        qsizetype attributeCount = 0;
+        for (++i; i < size && xml.at(i) != QLatin1Char('>'); ++i) {
+            const QChar c = xml.at(i);
+            if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
+                const qsizetype closing = xml.indexOf(c, i + 1);
+                if (closing < 0)
+                    return false;
+                i = closing;
+            } else if (c == QLatin1Char('=') && ++attributeCount > maxAttributesPerElement) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 // Replays the token stream the DOM parser is built from and writes, for every "Tmcard" element, its first
 // "TriggerList" and "ActionList" child as QDomNode::save(stream, 4) would: a node is indented and followed
 // by a line break unless a text sibling stands next to it, so the writer keeps per open element whether
@@ -487,6 +528,11 @@ QString AlarmMessageParser::GetDomNodeXmlString(const QDomNode& node)
 
 QList<AlarmMessageParser::RuleXmlTexts> AlarmMessageParser::RuleXmlTextsOf(const QString& alarmListXml)
 {
+    if (hasAttributeFlood(alarmListXml)) {
+        ALARM_TRACE_ERROR("%s, an element has more than %lld attributes", "RuleXmlTextsOf",
+                          static_cast<long long>(maxAttributesPerElement));
+        return {};
+    }
     RuleXmlWriter writer;
     if (writer.run(alarmListXml))
         return writer.takeTexts();

@@ -30,7 +30,8 @@ QString entityBomb()
 {
     QString declarations = QStringLiteral("<!ENTITY l0 \"lol\">");
     for (int i = 1; i < 10; ++i)
-        declarations += QStringLiteral("<!ENTITY l%1 \"%2\">").arg(i).arg(repeated(QStringLiteral("&l%1;").arg(i - 1), 10));
+        declarations +=
+            QStringLiteral("<!ENTITY l%1 \"%2\">").arg(i).arg(repeated(QStringLiteral("&l%1;").arg(i - 1), 10));
     return QStringLiteral("<?xml version=\"1.0\"?><!DOCTYPE r [%1]><GetEvtTmcardRes><Tmcard><Name>&l9;</Name>"
                           "</Tmcard></GetEvtTmcardRes>").arg(declarations);
 }
@@ -54,7 +55,8 @@ QString nulByte()
 
 QString attributeFlood()
 {
-    return QStringLiteral("<r %1/>").arg(repeated({}, 100000, [](int i) { return QStringLiteral("a%1=\"v\" ").arg(i); }));
+    const auto attribute = [](int i) { return QStringLiteral("a%1=\"v\" ").arg(i); };
+    return QStringLiteral("<r %1/>").arg(repeated({}, 100000, attribute));
 }
 
 QString distinctSiblings()
@@ -106,12 +108,16 @@ QStringList snapshot(PluginFixture& fixture)
 
 const QString goodList = AlarmDocumentGenerator::alarmListXml(12);
 
+// What a fresh plug-in lists for the good list.
 QStringList goodSnapshot()
 {
-    PluginFixture fixture;
-    fixture.framework.licence.editionFeature.insert(QStringLiteral("supportGuardian"), true);
-    fixture.answer(METHOD_GET_ALL_ALARM, goodList, nullptr);
-    return snapshot(fixture);
+    static const QStringList rows = [] {
+        PluginFixture fixture;
+        fixture.framework.licence.editionFeature.insert(QStringLiteral("supportGuardian"), true);
+        fixture.answer(METHOD_GET_ALL_ALARM, goodList, nullptr);
+        return snapshot(fixture);
+    }();
+    return rows;
 }
 
 } // namespace
@@ -125,6 +131,8 @@ private slots:
     void xmlTreeOfHostileText();
     void alarmListSurvivesHostileAnswer_data();
     void alarmListSurvivesHostileAnswer();
+    void ruleTextsGiveWayToAttributeFlood_data();
+    void ruleTextsGiveWayToAttributeFlood();
     void eventOfWrongShapeChangesNothing_data();
     void eventOfWrongShapeChangesNothing();
     void answerOfWrongShapeReleasesItsRequest_data();
@@ -154,7 +162,8 @@ void tst_HostileInput::xmlTreeOfHostileText_data()
         << QVariant(QVariantMap{{"r", QString(QChar::ReplacementCharacter).repeated(3) + "("}});
     QTest::newRow("100 000 attributes on one element") << DocumentMaker(attributeFlood)
                                                         << QVariant(QVariantMap{{"r", attributes}});
-    QTest::newRow("100 000 distinct siblings") << DocumentMaker(distinctSiblings) << QVariant(QVariantMap{{"r", siblings}});
+    QTest::newRow("100 000 distinct siblings")
+        << DocumentMaker(distinctSiblings) << QVariant(QVariantMap{{"r", siblings}});
     QTest::newRow("100 000 repeated siblings")
         << DocumentMaker(repeatedSiblings)
         << QVariant(QVariantMap{{"r", QVariantMap{{"a", QVariantList(100000, QString())}}}});
@@ -182,13 +191,13 @@ void tst_HostileInput::alarmListSurvivesHostileAnswer_data()
         << DocumentMaker([] { return QStringLiteral("<GetEvtTmcardRes><Tmcard %1/></GetEvtTmcardRes>")
                                   .arg(attributeFlood().mid(3).chopped(2)); })
         << 1;
-    QTest::newRow("300 000 minimal rules")
+    QTest::newRow("200 000 minimal rules")
         << DocumentMaker([] {
-               return QStringLiteral("<GetEvtTmcardRes>%1</GetEvtTmcardRes>").arg(repeated({}, 300000, [](int i) {
+               return QStringLiteral("<GetEvtTmcardRes>%1</GetEvtTmcardRes>").arg(repeated({}, 200000, [](int i) {
                    return QStringLiteral("<Tmcard><TmcardID>%1</TmcardID></Tmcard>").arg(i);
                }));
            })
-        << 300000;
+        << 200000;
     // About 100 MB: the generated rules, each carrying an element the codec does not know with a long value.
     QTest::newRow("100 MB list") << DocumentMaker([] {
         const QString padding = QStringLiteral("<Extension data=\"%1\">%1</Extension>").arg(QString(50000, 'x'));
@@ -216,6 +225,37 @@ void tst_HostileInput::alarmListSurvivesHostileAnswer()
     // Then the next good answer lists exactly what a fresh plug-in lists
     fixture.answer(METHOD_GET_ALL_ALARM, goodList, nullptr);
     QCOMPARE(snapshot(fixture), goodSnapshot());
+}
+
+void tst_HostileInput::ruleTextsGiveWayToAttributeFlood_data()
+{
+    QTest::addColumn<int>("attributeCount");
+    QTest::addColumn<bool>("hasTexts");
+    QTest::newRow("64 attributes keep the rule texts") << 64 << true;
+    QTest::newRow("65 attributes drop them") << 65 << false;
+    QTest::newRow("100 000 attributes drop them") << 100000 << false;
+}
+
+void tst_HostileInput::ruleTextsGiveWayToAttributeFlood()
+{
+    QFETCH(int, attributeCount);
+    QFETCH(bool, hasTexts);
+    const auto attribute = [](int i) { return QStringLiteral(" a%1='>'").arg(i); };
+    const QString rules = AlarmDocumentGenerator::ruleXml(1) + AlarmDocumentGenerator::ruleXml(2);
+    PluginFixture fixture;
+    fixture.answer(METHOD_GET_ALL_ALARM,
+                   QStringLiteral("<GetEvtTmcardRes><!-- a=1 b=2 --><Extension%1/>%2</GetEvtTmcardRes>")
+                       .arg(repeated({}, attributeCount, attribute), rules),
+                   nullptr);
+
+    // The rows are listed either way; only the rule texts read from the raw document go
+    PluginFixture plain;
+    plain.answer(METHOD_GET_ALL_ALARM, QStringLiteral("<GetEvtTmcardRes>%1</GetEvtTmcardRes>").arg(rules), nullptr);
+    AlarmModel* model = fixture.plugin.getAlarmModel();
+    const QStringList expected = hasTexts ? column(plain.plugin.getAlarmModel(), AlarmModel::triggerXmlRole)
+                                          : QStringList{QString(), QString()};
+    QCOMPARE(column(model, AlarmModel::idRole), column(plain.plugin.getAlarmModel(), AlarmModel::idRole));
+    QCOMPARE(column(model, AlarmModel::triggerXmlRole), expected);
 }
 
 void tst_HostileInput::eventOfWrongShapeChangesNothing_data()
@@ -280,24 +320,28 @@ void tst_HostileInput::answerOfWrongShapeReleasesItsRequest()
     fixture.plugin.LoadPairPluginDone();
     fixture.answer(METHOD_GET_ALL_ALARM, goodList, nullptr);
     const QString firstId = fixture.plugin.getAlarmModel()->item(0)->data(AlarmModel::idRole).toString();
-    const QString templateName = fixture.plugin.getAlarmModel()->item(0)->data(AlarmModel::scheduleRole).toList().value(0).toString();
+    const QString templateName =
+        fixture.plugin.getAlarmModel()->item(0)->data(AlarmModel::scheduleRole).toList().value(0).toString();
 
     // Given the request QML makes for that answer (each allocates the context the answer releases)
     fixture.framework.requests.clear();
     const QMap<QString, std::function<void()>> requests{
         {METHOD_GET_ALL_ALARM, [&] { fixture.plugin.getAllAlarm(); }},
-        {METHOD_ADD_ALARM, [&] { fixture.plugin.addAlarm("n", "d", "<TriggerList/>", "<ActionList/>", "", "t", "", true); }},
-        {METHOD_UPD_ALARM, [&] { fixture.plugin.updateAlarm(firstId, "n", "d", "<TriggerList/>", "<ActionList/>", "", "t", "", true); }},
+        {METHOD_ADD_ALARM, [&] { fixture.plugin.addAlarm("n", "d", "<TriggerList/>", "", "", "t", "", true); }},
+        {METHOD_UPD_ALARM,
+         [&] { fixture.plugin.updateAlarm(firstId, "n", "d", "<TriggerList/>", "", "", "t", "", true); }},
         {METHOD_DEL_ALARM, [&] { fixture.plugin.deleteAlarms({firstId}); }},
         {METHOD_SEND_HTTP, [&] { fixture.plugin.sendHttpRequest("http://h/", false, "", "", "GET", "", ""); }},
         {METHOD_UPD_ALARM_SCHEDULE, [&] { fixture.plugin.updateAlarmSchedule(templateName, "new", ""); }},
         {METHOD_GET_ALARM_SOUND_LIST, [&] { fixture.plugin.getAlarmSoundList(); }},
         {METHOD_GET_ALARM_SOUND_LIST_FOR_SYNC, [&] { fixture.plugin.PluginServerConnected(); }},
-        {METHOD_GET_ALARM_SOUND_CONTENT, [&] { fixture.answer(METHOD_GET_ALARM_SOUND_LIST_FOR_SYNC, QStringList{"a.mp3"}, nullptr); }},
+        {METHOD_GET_ALARM_SOUND_CONTENT,
+         [&] { fixture.answer(METHOD_GET_ALARM_SOUND_LIST_FOR_SYNC, QStringList{"a.mp3"}, nullptr); }},
         {METHOD_GET_RESERVE_TIME, [&] { fixture.plugin.getReserveTime(); }},
         {METHOD_UPD_RESERVE_TIME, [&] { fixture.plugin.updateReserveTime(5); }},
         {METHOD_TOGGLE_ALL_ALARM, [&] { fixture.plugin.toggleAllAlarm(true, 3); }},
-        {METHOD_TOGGLE_ALARM, [&] { fixture.plugin.toggleAlarm({QVariantMap{{ARG_ALARM_ID, firstId}, {ARG_TOGGLE_ENABLE, false}}}); }},
+        {METHOD_TOGGLE_ALARM,
+         [&] { fixture.plugin.toggleAlarm({QVariantMap{{ARG_ALARM_ID, firstId}, {ARG_TOGGLE_ENABLE, false}}}); }},
         {METHOD_VIRTUAL_TRIGGER, [&] { fixture.plugin.sendVirtualTriggerAlarm("v", "cam1", 1, 9, "Cam"); }},
     };
     requests.value(method)();
@@ -377,8 +421,9 @@ void tst_HostileInput::soundNameStaysInSoundFolder()
     fixture.answer(METHOD_GET_ALARM_SOUND_CONTENT,
                    QVariantList{QVariantMap{{ARG_SOUND_NAME, soundName}, {ARG_SOUND_CONTENT, "UklGRg=="}}}, nullptr);
 
-    QCOMPARE(QDir(root.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden), QStringList{"sounds"});
-    QCOMPARE(QDir(soundFolder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden), saved);
+    const QDir::Filters everything = QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden;
+    QCOMPARE(QDir(root.path()).entryList(everything), QStringList{"sounds"});
+    QCOMPARE(QDir(soundFolder).entryList(everything), saved);
 }
 
 QTEST_MAIN(tst_HostileInput)
