@@ -2,15 +2,18 @@
 # The project's two entry points on a fresh Debian machine:
 #   ./run.sh test             install what is missing, build, run every test
 #   ./run.sh test --sanitize  the same in a separate AddressSanitizer + UndefinedBehaviorSanitizer build
+#   ./run.sh fuzz [SECONDS]   build the libFuzzer targets with clang and run each for SECONDS (default 45)
 set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(cmake ninja-build g++ pkg-config
           qt6-base-dev libpugixml-dev libbenchmark-dev)
 
+fuzz_packages=(clang-14 libclang-rt-14-dev)
+
 install_missing_packages() {
     local missing=()
-    for package in "${packages[@]}"; do
+    for package in "$@"; do
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return 0
@@ -30,7 +33,7 @@ configure_and_build() {
 run_tests() {
     local sanitize=0
     [ "${1:-}" = "--sanitize" ] && sanitize=1
-    install_missing_packages
+    install_missing_packages "${packages[@]}"
     if [ $sanitize -eq 1 ]; then
         configure_and_build build-sanitize -DALARM_SANITIZE=ON -DALARM_BUILD_BENCH=OFF
         export ASAN_OPTIONS="halt_on_error=1:detect_leaks=1:abort_on_error=1"
@@ -43,7 +46,40 @@ run_tests() {
     fi
 }
 
+run_fuzzers() {
+    local seconds=${1:-45}
+    install_missing_packages "${packages[@]}" "${fuzz_packages[@]}"
+    CXX=clang++-14 configure_and_build build-fuzz -DALARM_BUILD_FUZZ=ON -DALARM_SANITIZE=ON \
+        -DALARM_BUILD_TESTS=OFF -DALARM_BUILD_HOST=OFF
+    export ASAN_OPTIONS="halt_on_error=1:detect_leaks=1"
+    export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1"
+    export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
+    local root=$PWD workdir
+    workdir=$(mktemp -d)
+    for target in xml2json alarmlist alarmeventparser clientnotificationparser plugin; do
+        local binary=$root/build-fuzz/bin/fuzz_$target
+        # Inputs that once failed are replayed first, one run each.
+        if compgen -G "fuzz/regressions/$target/*" >/dev/null; then
+            "$binary" -runs=1 fuzz/regressions/$target/*
+        fi
+        local seeds=("$root/fuzz/corpus/$target")
+        [ "$target" != plugin ] && seeds+=("$root/tests/data")
+        [ "$target" = alarmlist ] && [ -d samples ] && seeds+=("$root/samples")
+        mkdir -p "$workdir/$target"
+        echo "fuzz_$target: ${seconds}s"
+        if ! (cd "$workdir" && "$binary" -dict="$root/fuzz/xml.dict" -max_total_time="$seconds" -timeout=10 \
+                -rss_limit_mb=4096 -print_final_stats=1 "$target" "${seeds[@]}" >"$target.log" 2>&1); then
+            cat "$workdir/$target.log"
+            echo "fuzz_$target failed; the input is in $workdir" >&2
+            return 1
+        fi
+        grep -E '^(#[0-9]+ +DONE|stat::number_of_executed_units)' "$workdir/$target.log" || true
+    done
+    rm -rf "$workdir"
+}
+
 case "${1:-}" in
     test) shift; run_tests "$@" ;;
-    *) echo "usage: $0 test [--sanitize]" >&2; exit 2 ;;
+    fuzz) shift; run_fuzzers "$@" ;;
+    *) echo "usage: $0 test [--sanitize] | fuzz [SECONDS]" >&2; exit 2 ;;
 esac

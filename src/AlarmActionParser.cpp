@@ -1,146 +1,601 @@
-// Placeholder bodies until the real implementation lands.
 #include "AlarmActionParser.h"
+
+#include "PluginAlarmManager.h"
+#include "stdafx.h"
+
+#include <QObject>
+#include <QStringList>
+
+using namespace ActionParserCommon;
+
+namespace {
+
+// <Action> templates. Values go in as they are: the editor never hands texts holding "&", "<" or
+// %-number markers, and the server expects exactly these element orders, without blanks between them.
+const QString ACTION_SENDMAIL_MSG = QStringLiteral(
+    "<Action><SendMail><SenderName>%1</SenderName><From>%2</From><To>%3</To><Cc>%4</Cc>"
+    "<Subject>%5</Subject><MailContent>%6</MailContent></SendMail></Action>");
+const QString ACTION_SMS_MSG =
+    QStringLiteral("<Action><SMS><PhoneNum>%1</PhoneNum><Message>%2</Message></SMS></Action>");
+const QString ACTION_HTTP_MSG = QStringLiteral(
+    "<Action><HTTP><URL>%1</URL><NeedAuth>%2</NeedAuth><User>%3</User><Pwd>%4</Pwd></HTTP></Action>");
+const QString ACTION_RECORDING_MSG = QStringLiteral("<Action><Recording>%1</Recording></Action>");
+const QString CAM_ENTRY = QStringLiteral("<Cam GrpID=\"%1\">%2</Cam>");
+const QString ACTION_PRESETLOCMOVE_MSG = QStringLiteral("<Action><PresetLocMove>%1</PresetLocMove></Action>");
+const QString PRESETLOC_ENTRY = QStringLiteral("<Entry><Name>%1</Name><Pos>%2</Pos></Entry>");
+const QString ACTION_SETDO_MSG = QStringLiteral("<Action><SetDO><Entry><Name>%1</Name>%2</Entry></SetDO></Action>");
+const QString DO_ENTRY = QStringLiteral("<DO><Idx>%1</Idx><Val>%2</Val></DO>");
+const QString ACTION_CLIENTNOTIFICATION_MSG = QStringLiteral(
+    "<Action><ClientNotification><Type>Popup Window</Type><PopupWindow><Size>Large</Size><ShowTime>5</ShowTime>"
+    "<AutoClose>false</AutoClose><IncludeTriggerCam>%1</IncludeTriggerCam>%2</PopupWindow></ClientNotification>"
+    "</Action>");
+const QString NOTIFI_CAM_ENTRY = QStringLiteral("<Cam ShowMotion='0'>%1</Cam>");
+
+// Values of the "Type" child that select a client-notification codec.
+const QString NOTIFY_TYPE_POPUP = QStringLiteral("Popup Window");
+const QString NOTIFY_TYPE_EMAP = QStringLiteral("GoToEMap");
+const QString NOTIFY_TYPE_SOUND = QStringLiteral("SoundTheAlarm");
+
+// The two online base maps have fixed ids; every other map is shown by its own id.
+const QString GOOGLE_MAP_ID = QStringLiteral("{8A2DF5B3-8CDF-41B1-8163-EE2158116606}");
+const QString OPEN_STREET_MAP_ID = QStringLiteral("{202EE83D-9667-42AD-AED9-5A4C240193FA}");
+
+const QString KEY_ACTION_TYPE = QStringLiteral("actionType");
+const QString KEY_ACTION_TARGET = QStringLiteral("actionTarget");
+const QString KEY_TARGET_NAME = QStringLiteral("target");
+const QString KEY_TARGET_ACTION = QStringLiteral("action");
+const QString KEY_CAMERA_ID = QStringLiteral("camId");
+
+bool isList(const QVariant& value)
+{
+    return value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
+}
+
+bool isContainer(const QVariant& value)
+{
+    return isList(value) || value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash;
+}
+
+// A leaf read as text. QVariant would turn a one-element string list into its element; a repeated or
+// structured element where a leaf belongs is malformed and reads as empty instead.
+QString textOf(const QVariant& value)
+{
+    return isContainer(value) ? QString() : value.toString();
+}
+
+// One child of an element map, or one key of a target map, as text.
+QString fieldOf(const QVariantMap& map, const QString& key)
+{
+    return textOf(map.value(key));
+}
+
+// Base 10, 0 for anything that is not a 32-bit number (QVariant::toInt would wrap larger values).
+int integerOf(const QVariant& value)
+{
+    return textOf(value).toInt();
+}
+
+bool booleanOf(const QVariant& value)
+{
+    return !isContainer(value) && value.toBool();
+}
+
+// The children of an element map; a text or list where the element belongs reads as no children.
+QVariantMap childrenOf(const QVariant& element)
+{
+    return element.typeId() == QMetaType::QVariantMap || element.typeId() == QMetaType::QVariantHash
+               ? element.toMap()
+               : QVariantMap();
+}
+
+// The type element of an <Action>, e.g. the map under "SendMail".
+QVariantMap typeElementOf(const QVariant& action, const QString& typeName)
+{
+    return childrenOf(childrenOf(action).value(typeName));
+}
+
+// A target list as the editor hands it; anything but a list has no targets (QVariant would split a
+// string into characters).
+QVariantList targetListOf(const QVariant& actionTarget)
+{
+    return isList(actionTarget) ? actionTarget.toList() : QVariantList();
+}
+
+// The single target of the mail, SMS and HTTP actions. The editor always hands one; an empty list is
+// encoded like a target with every field empty rather than read out of bounds.
+QVariantMap firstTargetOf(const QVariant& actionTarget)
+{
+    const QVariantList targets = targetListOf(actionTarget);
+    return targets.isEmpty() ? QVariantMap() : childrenOf(targets.first());
+}
+
+// An element that may carry attributes: its "#text" when it does, the element itself when it is text.
+QString elementTextOf(const QVariant& element)
+{
+    return element.canConvert<QVariantMap>() ? fieldOf(element.toMap(), QStringLiteral("#text")) : textOf(element);
+}
+
+QVariantMap actionModel(const QString& actionType, const QVariantList& targets)
+{
+    return {{KEY_ACTION_TYPE, actionType}, {KEY_ACTION_TARGET, targets}};
+}
+
+// Without a manager (a codec used on its own) names are empty and outputs get the lookup's own fallback.
+QString displayNameOf(PluginAlarmManager* manager, const QString& deviceId)
+{
+    return manager ? manager->queryDisplayName(deviceId) : QString();
+}
+
+QString outputNameOf(PluginAlarmManager* manager, const QString& deviceId, int index)
+{
+    return manager ? manager->queryDIDODisplayName(deviceId, QStringLiteral("DO"), index)
+                   : QStringLiteral("DO-%1").arg(index);
+}
+
+QString roleNameOf(PluginAlarmManager* manager, int roleId)
+{
+    return manager ? manager->queryRoleName(roleId) : QString();
+}
+
+QString triggerCameraText()
+{
+    return QObject::tr("Event triggering camera");
+}
+
+// The actions this plug-in shows but never writes have no XML of their own.
+QString decodeOnlyActionXml()
+{
+    return QString();
+}
+
+} // namespace
+
+QVariantList transContentAsList(const QVariant& value)
+{
+    if (value.isNull())
+        return {};
+    if (isList(value))
+        return value.toList();
+    return QVariantList{value};
+}
 
 IActionParser::~IActionParser() = default;
 
-QVariantList transContentAsList(const QVariant&)
+// ---- Mail, SMS, HTTP: one target each ----
+
+QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    return {};
+    const QVariantMap mail = typeElementOf(action, ACTION_TYPE_SENDMAIL);
+    const QVariantMap snapshotCameras = childrenOf(mail.value(QStringLiteral("SnapshotCameraList")));
+    const QVariantMap target{
+        {KEY_TARGET_NAME, fieldOf(mail, QStringLiteral("To"))},
+        {KEY_TARGET_ACTION, QString()},
+        {QStringLiteral("senderName"), fieldOf(mail, QStringLiteral("SenderName"))},
+        {QStringLiteral("from"), fieldOf(mail, QStringLiteral("From"))},
+        {QStringLiteral("cc"), fieldOf(mail, QStringLiteral("Cc"))},
+        {QStringLiteral("subject"), fieldOf(mail, QStringLiteral("Subject"))},
+        {QStringLiteral("content"), fieldOf(mail, QStringLiteral("MailContent"))},
+        {QStringLiteral("snapshotCameraList"), transContentAsList(snapshotCameras.value(QStringLiteral("Camera")))},
+    };
+    return actionModel(ACTION_TYPE_SENDMAIL, {target});
 }
 
-
-
-QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString SendMailActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    const QVariantMap target = firstTargetOf(actionTarget);
+    return ACTION_SENDMAIL_MSG.arg(fieldOf(target, QStringLiteral("senderName")))
+        .arg(fieldOf(target, QStringLiteral("from")))
+        .arg(fieldOf(target, KEY_TARGET_NAME))
+        .arg(fieldOf(target, QStringLiteral("cc")))
+        .arg(fieldOf(target, QStringLiteral("subject")))
+        .arg(fieldOf(target, QStringLiteral("content")));
 }
 
-QString SendMailActionParser::ActionTargetToXml(const QVariant&)
+QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    return {};
+    const QVariantMap sms = typeElementOf(action, ACTION_TYPE_SMS);
+    const QVariantMap target{
+        {KEY_TARGET_NAME, fieldOf(sms, QStringLiteral("PhoneNum"))},
+        {KEY_TARGET_ACTION, QString()},
+        {QStringLiteral("message"), fieldOf(sms, QStringLiteral("Message"))},
+    };
+    return actionModel(ACTION_TYPE_SMS, {target});
 }
 
-QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString SMSActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    const QVariantMap target = firstTargetOf(actionTarget);
+    return ACTION_SMS_MSG.arg(fieldOf(target, KEY_TARGET_NAME)).arg(fieldOf(target, QStringLiteral("message")));
 }
 
-QString SMSActionParser::ActionTargetToXml(const QVariant&)
+QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    return {};
+    const QVariantMap http = typeElementOf(action, ACTION_TYPE_HTTP);
+    const bool isPost = booleanOf(http.value(QStringLiteral("Post")));
+    // The list shows the method where other actions show their target, and the URL as the action.
+    const QVariantMap target{
+        {KEY_TARGET_NAME, isPost ? QStringLiteral("POST Method") : QStringLiteral("GET Method")},
+        {KEY_TARGET_ACTION, fieldOf(http, QStringLiteral("URL"))},
+        {QStringLiteral("needAuth"), fieldOf(http, QStringLiteral("NeedAuth"))},
+        {QStringLiteral("user"), fieldOf(http, QStringLiteral("User"))},
+        {QStringLiteral("pwd"), fieldOf(http, QStringLiteral("Pwd"))},
+        {QStringLiteral("post"), isPost},
+        {QStringLiteral("contentType"), fieldOf(http, QStringLiteral("ContentType"))},
+        {QStringLiteral("httpContent"), fieldOf(http, QStringLiteral("HTTPContent"))},
+    };
+    return actionModel(ACTION_TYPE_HTTP, {target});
 }
 
-QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString HTTPActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    // The editor puts the URL under "target" when it encodes; method and body are not part of the
+    // written action.
+    const QVariantMap target = firstTargetOf(actionTarget);
+    return ACTION_HTTP_MSG.arg(fieldOf(target, KEY_TARGET_NAME))
+        .arg(fieldOf(target, QStringLiteral("needAuth")))
+        .arg(fieldOf(target, QStringLiteral("user")))
+        .arg(fieldOf(target, QStringLiteral("pwd")));
 }
 
-QString HTTPActionParser::ActionTargetToXml(const QVariant&)
+// ---- Recording, preset, digital output: one target per camera, preset or output ----
+
+QMap<QString, QVariant> RecordingActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager* manager)
 {
-    return {};
+    const QVariantMap recording = typeElementOf(action, ACTION_TYPE_RECORDING);
+    QVariantList targets;
+    const QVariantList cameras = transContentAsList(recording.value(QStringLiteral("Cam")));
+    for (const QVariant& camera : cameras) {
+        // A camera without a group attribute belongs to group 0.
+        const bool hasAttributes = camera.canConvert<QVariantMap>();
+        const QString camId = elementTextOf(camera);
+        const QString grpId = hasAttributes ? fieldOf(camera.toMap(), QStringLiteral("@GrpID")) : QStringLiteral("0");
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, displayNameOf(manager, camId)},
+            {KEY_TARGET_ACTION, QString()},
+            {KEY_CAMERA_ID, camId},
+            {QStringLiteral("grpId"), grpId},
+        });
+    }
+    return actionModel(ACTION_TYPE_RECORDING, targets);
 }
 
-QMap<QString, QVariant> RecordingActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString RecordingActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    QString cameras;
+    const QVariantList targets = targetListOf(actionTarget);
+    for (const QVariant& targetValue : targets) {
+        const QVariantMap target = childrenOf(targetValue);
+        cameras += CAM_ENTRY.arg(fieldOf(target, QStringLiteral("grpId")), fieldOf(target, KEY_CAMERA_ID));
+    }
+    return ACTION_RECORDING_MSG.arg(cameras);
 }
 
-QString RecordingActionParser::ActionTargetToXml(const QVariant&)
+QMap<QString, QVariant> PresetActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager* manager)
 {
-    return {};
+    const QVariantMap preset = typeElementOf(action, ACTION_TYPE_PRESET);
+    QVariantList targets;
+    const QVariantList entries = transContentAsList(preset.value(QStringLiteral("Entry")));
+    for (const QVariant& entryValue : entries) {
+        const QVariantMap entry = childrenOf(entryValue);
+        const QString camId = fieldOf(entry, QStringLiteral("Name"));
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, displayNameOf(manager, camId)},
+            {KEY_TARGET_ACTION, QString()},
+            {KEY_CAMERA_ID, camId},
+            {QStringLiteral("pos"), fieldOf(entry, QStringLiteral("Pos"))},
+        });
+    }
+    return actionModel(ACTION_TYPE_PRESET, targets);
 }
 
-QMap<QString, QVariant> PresetActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString PresetActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    QString entries;
+    const QVariantList targets = targetListOf(actionTarget);
+    for (const QVariant& targetValue : targets) {
+        const QVariantMap target = childrenOf(targetValue);
+        entries += PRESETLOC_ENTRY.arg(fieldOf(target, KEY_CAMERA_ID), fieldOf(target, QStringLiteral("pos")));
+    }
+    return ACTION_PRESETLOCMOVE_MSG.arg(entries);
 }
 
-QString PresetActionParser::ActionTargetToXml(const QVariant&)
+QMap<QString, QVariant> SetDOActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager* manager)
 {
-    return {};
+    const QVariantMap setDo = typeElementOf(action, ACTION_TYPE_SETDO);
+    QVariantList targets;
+    const QVariantList devices = transContentAsList(setDo.value(QStringLiteral("Entry")));
+    for (const QVariant& deviceValue : devices) {
+        const QVariantMap device = childrenOf(deviceValue);
+        const QString deviceId = fieldOf(device, QStringLiteral("Name"));
+        const QString deviceName = displayNameOf(manager, deviceId);
+        const QVariantList outputs = transContentAsList(device.value(QStringLiteral("DO")));
+        for (const QVariant& outputValue : outputs) {
+            const QVariantMap output = childrenOf(outputValue);
+            const int ioIndex = integerOf(output.value(QStringLiteral("Idx")));
+            // "index" carries the output's display name for the list; the number travels as "ioIndex".
+            targets.append(QVariantMap{
+                {KEY_TARGET_NAME, deviceName},
+                {KEY_TARGET_ACTION, ACTION_TYPE_SETDO},
+                {QStringLiteral("index"), outputNameOf(manager, deviceId, ioIndex)},
+                {QStringLiteral("value"), fieldOf(output, QStringLiteral("Val"))},
+                {QStringLiteral("period"), integerOf(output.value(QStringLiteral("Period")))},
+                {KEY_CAMERA_ID, deviceId},
+                {QStringLiteral("ioIndex"), ioIndex},
+            });
+        }
+    }
+    return actionModel(ACTION_TYPE_SETDO, targets);
 }
 
-QMap<QString, QVariant> SetDOActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString SetDOActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    // One device per action: the editor only offers outputs of one device, so the last "camId" names it.
+    // The encoder reads the output number from "index", which the editor fills before encoding.
+    QString deviceId;
+    QString outputs;
+    const QVariantList targets = targetListOf(actionTarget);
+    for (const QVariant& targetValue : targets) {
+        const QVariantMap target = childrenOf(targetValue);
+        deviceId = fieldOf(target, KEY_CAMERA_ID);
+        outputs += DO_ENTRY.arg(fieldOf(target, QStringLiteral("index")), fieldOf(target, QStringLiteral("value")));
+    }
+    return ACTION_SETDO_MSG.arg(deviceId).arg(outputs);
 }
 
-QString SetDOActionParser::ActionTargetToXml(const QVariant&)
+// ---- Client notifications ----
+
+QMap<QString, QVariant> ClientNotifyGotoLiveStreamActionParser::XmlToActionModel(const QVariant& action,
+                                                                                  PluginAlarmManager* manager)
 {
-    return {};
+    const QVariantMap popup =
+        childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(QStringLiteral("PopupWindow")));
+    QVariantList targets;
+    // Only the exact text "true" counts; the "1" this plug-in writes reads as not set.
+    if (fieldOf(popup, QStringLiteral("IncludeTriggerCam")) == QLatin1String("true")) {
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, triggerCameraText()},
+            {KEY_TARGET_ACTION, QString()},
+            {KEY_CAMERA_ID, QString()},
+            {QStringLiteral("includeTriggerCam"), true},
+        });
+    }
+    const QVariantList cameras = transContentAsList(popup.value(QStringLiteral("Cam")));
+    for (const QVariant& camera : cameras) {
+        const QString camId = elementTextOf(camera);
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, displayNameOf(manager, camId)},
+            {KEY_TARGET_ACTION, QString()},
+            {KEY_CAMERA_ID, camId},
+            {QStringLiteral("includeTriggerCam"), false},
+        });
+    }
+    return actionModel(ACTION_TYPE_CLIENTNOTIFY_GOTO_LIVESTREAM, targets);
 }
 
-QMap<QString, QVariant> ClientNotifyGotoLiveStreamActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QString ClientNotifyGotoLiveStreamActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
-    return {};
+    // The trigger-camera target is known only by its display text, so encoding must run in the same
+    // UI language as the decoding that produced it.
+    const QString triggerCamera = triggerCameraText();
+    bool includesTriggerCamera = false;
+    QString cameras;
+    const QVariantList targets = targetListOf(actionTarget);
+    for (const QVariant& targetValue : targets) {
+        const QVariantMap target = childrenOf(targetValue);
+        if (fieldOf(target, KEY_TARGET_NAME) == triggerCamera)
+            includesTriggerCamera = true;
+        else
+            cameras += NOTIFI_CAM_ENTRY.arg(fieldOf(target, KEY_CAMERA_ID));
+    }
+    // The flag is written as a number, which the decoder deliberately does not read as set.
+    return ACTION_CLIENTNOTIFICATION_MSG.arg(includesTriggerCamera ? 1 : 0).arg(cameras);
 }
 
-QString ClientNotifyGotoLiveStreamActionParser::ActionTargetToXml(const QVariant&)
+QMap<QString, QVariant> ClientNotifyGotoEMapActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    return {};
-}
-
-QMap<QString, QVariant> ClientNotifyGotoEMapActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
-{
-    return {};
+    const QVariantMap eMap = childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(NOTIFY_TYPE_EMAP));
+    QVariantList targets;
+    const QVariantList maps = transContentAsList(eMap.value(QStringLiteral("MapInfo")));
+    for (const QVariant& mapValue : maps) {
+        if (!mapValue.isValid())
+            continue;
+        const QVariantMap mapInfo = childrenOf(mapValue);
+        const QString mapId = fieldOf(mapInfo, QStringLiteral("MapId"));
+        // Map ids carry a one-character kind prefix that the list does not show.
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, transformTargetName(mapId.mid(1))},
+            {QStringLiteral("mapId"), mapId},
+            {QStringLiteral("cameraList"), transContentAsList(mapInfo.value(QStringLiteral("PlayCam")))},
+            {KEY_TARGET_ACTION, QString()},
+        });
+    }
+    return actionModel(ACTION_TYPE_CLIENTNOTIFY_GOTO_EMAP, targets);
 }
 
 QString ClientNotifyGotoEMapActionParser::ActionTargetToXml(const QVariant&)
 {
-    return {};
+    return decodeOnlyActionXml();
 }
 
-QString ClientNotifyGotoEMapActionParser::transformTargetName(QString)
+QString ClientNotifyGotoEMapActionParser::transformTargetName(QString name)
 {
-    return {};
+    if (name.contains(GOOGLE_MAP_ID))
+        return QStringLiteral("Google map");
+    if (name.contains(OPEN_STREET_MAP_ID))
+        return QStringLiteral("OpenStreetMap");
+    return name;
 }
 
-QMap<QString, QVariant> ClientNotifySoundTheAlarmActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QMap<QString, QVariant> ClientNotifySoundTheAlarmActionParser::XmlToActionModel(const QVariant& action,
+                                                                                 PluginAlarmManager*)
 {
-    return {};
+    const QVariantMap sound = childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(NOTIFY_TYPE_SOUND));
+    QVariantList targets;
+    const QVariantList sounds = transContentAsList(sound.value(QStringLiteral("Sound")));
+    for (const QVariant& soundName : sounds)
+        targets.append(QVariantMap{{KEY_TARGET_NAME, textOf(soundName)}, {KEY_TARGET_ACTION, QString()}});
+    return actionModel(ACTION_TYPE_CLIENTNOTIFY_SOUND_THE_ALARM, targets);
 }
 
 QString ClientNotifySoundTheAlarmActionParser::ActionTargetToXml(const QVariant&)
 {
-    return {};
+    return decodeOnlyActionXml();
 }
 
-QMap<QString, QVariant> AddBookmarkAlarmActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+// ---- Bookmark, IP audio, mobile notification: decode only ----
+
+QMap<QString, QVariant> AddBookmarkAlarmActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    return {};
+    const QVariantMap bookmark = typeElementOf(action, ACTION_TYPE_ADDBOOKMARK);
+    QVariantList targets;
+    const QVariantList cameras = transContentAsList(bookmark.value(QStringLiteral("CamInfo")));
+    for (const QVariant& cameraValue : cameras) {
+        const QVariantMap camera = childrenOf(cameraValue);
+        // The rule stores the camera's name itself; no lookup.
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, fieldOf(camera, QStringLiteral("CamRefName"))},
+            {KEY_TARGET_ACTION, QString()},
+            {KEY_CAMERA_ID, fieldOf(camera, QStringLiteral("CamId"))},
+            {QStringLiteral("locId"), fieldOf(camera, QStringLiteral("LocId"))},
+            {QStringLiteral("duration"), fieldOf(camera, QStringLiteral("Duration"))},
+            {QStringLiteral("creator"), fieldOf(camera, QStringLiteral("Creator"))},
+            {QStringLiteral("description"), fieldOf(camera, QStringLiteral("Description"))},
+            {QStringLiteral("group"), fieldOf(camera, QStringLiteral("Group"))},
+        });
+    }
+    return actionModel(ACTION_TYPE_ADDBOOKMARK, targets);
 }
 
 QString AddBookmarkAlarmActionParser::ActionTargetToXml(const QVariant&)
 {
-    return {};
+    return decodeOnlyActionXml();
 }
 
-QMap<QString, QVariant> PlayIPAudioAlarmActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QMap<QString, QVariant> PlayIPAudioAlarmActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    return {};
+    const QVariantMap playAudio = typeElementOf(action, ACTION_TYPE_PLAYIPAUDIO);
+    QVariantList targets;
+    const QVariantList devices = transContentAsList(playAudio.value(QStringLiteral("IPAudioInfo")));
+    for (const QVariant& deviceValue : devices) {
+        const QVariantMap device = childrenOf(deviceValue);
+        // The file to play is what is done to the device, so it stands under "action".
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, fieldOf(device, QStringLiteral("IPAudioName"))},
+            {KEY_TARGET_ACTION, fieldOf(device, QStringLiteral("AudioFileName"))},
+            {QStringLiteral("fileId"), integerOf(device.value(QStringLiteral("AudioFileId")))},
+            {QStringLiteral("ipAudioId"), integerOf(device.value(QStringLiteral("IPAudioId")))},
+        });
+    }
+    return actionModel(ACTION_TYPE_PLAYIPAUDIO, targets);
 }
 
 QString PlayIPAudioAlarmActionParser::ActionTargetToXml(const QVariant&)
 {
-    return {};
+    return decodeOnlyActionXml();
 }
 
-QMap<QString, QVariant> MobileNotificationActionParser::XmlToActionModel(const QVariant&, PluginAlarmManager*)
+QMap<QString, QVariant> MobileNotificationActionParser::XmlToActionModel(const QVariant& action,
+                                                                          PluginAlarmManager* manager)
 {
-    return {};
+    const QVariantMap pushInfo =
+        childrenOf(typeElementOf(action, ACTION_TYPE_MOBILENOTIFICATION).value(QStringLiteral("PushInfo")));
+    if (booleanOf(pushInfo.value(QStringLiteral("PushAll")))) {
+        const QVariantMap everyone{
+            {KEY_TARGET_NAME, QObject::tr("All roles")},
+            {KEY_TARGET_ACTION, QString()},
+            {QStringLiteral("pushAll"), true},
+        };
+        return actionModel(ACTION_TYPE_MOBILENOTIFICATION, {everyone});
+    }
+    // An absent "RoleId" still names one role, role 0, so it is not read through transContentAsList.
+    const QVariant roleIdValue = pushInfo.value(QStringLiteral("RoleId"));
+    const QVariantList roleIds = isList(roleIdValue) ? roleIdValue.toList() : QVariantList{roleIdValue};
+    QVariantList targets;
+    for (const QVariant& roleIdText : roleIds) {
+        const int roleId = integerOf(roleIdText);
+        targets.append(QVariantMap{
+            {KEY_TARGET_NAME, roleNameOf(manager, roleId)},
+            {KEY_TARGET_ACTION, QString()},
+            {QStringLiteral("pushAll"), false},
+            {QStringLiteral("roleId"), roleId},
+        });
+    }
+    return actionModel(ACTION_TYPE_MOBILENOTIFICATION, targets);
 }
 
 QString MobileNotificationActionParser::ActionTargetToXml(const QVariant&)
 {
+    return decodeOnlyActionXml();
+}
+
+// ---- Factory ----
+
+namespace {
+template <class Parser>
+QSharedPointer<IActionParser> makeParser()
+{
+    return QSharedPointer<IActionParser>(new Parser);
+}
+} // namespace
+
+QSharedPointer<IActionParser> ActionParserFactory::GetActionParser(const QString& actionType)
+{
+    // Knows only the ten types the editor works with by model type; IP audio and mobile notifications
+    // are reached through the <Action> element alone.
+    if (actionType == ACTION_TYPE_SENDMAIL)
+        return makeParser<SendMailActionParser>();
+    if (actionType == ACTION_TYPE_SMS)
+        return makeParser<SMSActionParser>();
+    if (actionType == ACTION_TYPE_HTTP)
+        return makeParser<HTTPActionParser>();
+    if (actionType == ACTION_TYPE_RECORDING)
+        return makeParser<RecordingActionParser>();
+    if (actionType == ACTION_TYPE_PRESET)
+        return makeParser<PresetActionParser>();
+    if (actionType == ACTION_TYPE_SETDO)
+        return makeParser<SetDOActionParser>();
+    if (actionType == ACTION_TYPE_CLIENTNOTIFY_GOTO_LIVESTREAM)
+        return makeParser<ClientNotifyGotoLiveStreamActionParser>();
+    if (actionType == ACTION_TYPE_CLIENTNOTIFY_GOTO_EMAP)
+        return makeParser<ClientNotifyGotoEMapActionParser>();
+    if (actionType == ACTION_TYPE_CLIENTNOTIFY_SOUND_THE_ALARM)
+        return makeParser<ClientNotifySoundTheAlarmActionParser>();
+    if (actionType == ACTION_TYPE_ADDBOOKMARK)
+        return makeParser<AddBookmarkAlarmActionParser>();
     return {};
 }
 
-QSharedPointer<IActionParser> ActionParserFactory::GetActionParser(const QString&)
+QSharedPointer<IActionParser> ActionParserFactory::GetActionParser(const QMap<QString, QVariant>& action)
 {
-    return {};
-}
-
-QSharedPointer<IActionParser> ActionParserFactory::GetActionParser(const QMap<QString, QVariant>&)
-{
+    // The order decides for an element with two type children: the earlier type wins.
+    if (action.contains(ACTION_TYPE_SENDMAIL))
+        return makeParser<SendMailActionParser>();
+    if (action.contains(ACTION_TYPE_SMS))
+        return makeParser<SMSActionParser>();
+    if (action.contains(ACTION_TYPE_HTTP))
+        return makeParser<HTTPActionParser>();
+    if (action.contains(ACTION_TYPE_RECORDING))
+        return makeParser<RecordingActionParser>();
+    if (action.contains(ACTION_TYPE_PRESET))
+        return makeParser<PresetActionParser>();
+    if (action.contains(ACTION_TYPE_SETDO))
+        return makeParser<SetDOActionParser>();
+    if (action.contains(ACTION_TYPE_CLIENTNOTIFY)) {
+        const QString notificationType =
+            fieldOf(childrenOf(action.value(ACTION_TYPE_CLIENTNOTIFY)), QStringLiteral("Type"));
+        if (notificationType == NOTIFY_TYPE_POPUP)
+            return makeParser<ClientNotifyGotoLiveStreamActionParser>();
+        if (notificationType == NOTIFY_TYPE_EMAP)
+            return makeParser<ClientNotifyGotoEMapActionParser>();
+        if (notificationType == NOTIFY_TYPE_SOUND)
+            return makeParser<ClientNotifySoundTheAlarmActionParser>();
+        return {};
+    }
+    if (action.contains(ACTION_TYPE_ADDBOOKMARK))
+        return makeParser<AddBookmarkAlarmActionParser>();
+    if (action.contains(ACTION_TYPE_PLAYIPAUDIO))
+        return makeParser<PlayIPAudioAlarmActionParser>();
+    if (action.contains(ACTION_TYPE_MOBILENOTIFICATION))
+        return makeParser<MobileNotificationActionParser>();
     return {};
 }

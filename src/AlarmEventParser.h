@@ -5,8 +5,10 @@
 #include <QVariantMap>
 
 // Reads one triggered-alarm event document into the values of the alarmTriggered signal. SetMessage
-// keeps the "AlarmNotification"/"Alarm" map; each getter derives its value from it again, and a missing
-// key always reads as an empty value.
+// keeps the "AlarmNotification"/"Alarm" map; a missing key always reads as an empty value.
+// The core asks every getter once per event, so SetMessage also keeps the few maps and type texts that
+// nearly every getter starts from; they depend only on the document, so the results are the same as
+// deriving them again on each call.
 class AlarmEventParser
 {
 public:
@@ -34,4 +36,8 @@ private:
     QString eventTypeAsSent() const;
 
     QVariantMap m_alarm;
+    QVariantMap m_quessaEvent;
+    QString m_typeAsSent;
+    QString m_triggerType;
+    QVariantMap m_triggerBody;
 };

@@ -1,19 +1,40 @@
-// Placeholder bodies until the real implementation lands.
 #include "AudioFileManager.h"
 
-bool AudioFileManager::initial(const QString&)
-{
-    return {};
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+const QString SOUND_FILE_PATTERN = QStringLiteral("*.mp3");
 }
 
-void AudioFileManager::release() {}
-
-bool AudioFileManager::save(const QString&, const QByteArray&)
+bool AudioFileManager::initial(const QString& path)
 {
-    return {};
+    m_directoryPath = path;
+    // QFileInfo, not QDir: an empty path must not count as the current directory.
+    if (QFileInfo(path).isDir())
+        return true;
+    return !path.isEmpty() && QDir().mkpath(path);
+}
+
+void AudioFileManager::release()
+{
+    // QDir would read an empty path as the current directory and empty it.
+    if (!m_directoryPath.isEmpty())
+        QDir(m_directoryPath).removeRecursively();
+}
+
+bool AudioFileManager::save(const QString& name, const QByteArray& data)
+{
+    // The core filters names before it calls this; the path is joined as text on purpose.
+    QFile file(m_directoryPath + QLatin1Char('/') + name);
+    // No truncation: a shorter sound saved over a longer one keeps the old tail, as the server's copies do.
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    return file.write(data) != -1;
 }
 
 QStringList AudioFileManager::getFileList()
 {
-    return {};
+    return QDir(m_directoryPath).entryList({SOUND_FILE_PATTERN}, QDir::Files, QDir::NoSort);
 }
