@@ -64,7 +64,7 @@ int GuiRunner::run(const AlarmHost::Options& options)
     context->setContextProperty(QStringLiteral("host"), this);
     context->setContextProperty(QStringLiteral("initialCamera"), m_settings.cameraId);
     if (!m_settings.language.isEmpty())
-        setLanguage(m_settings.language);
+        applyTranslator(m_settings.language);
 
     m_isScreenshotPending = !m_settings.screenshotPath.isEmpty();
     if (m_isScreenshotPending) {
@@ -95,24 +95,31 @@ QStringList GuiRunner::languages() const
     return languages;
 }
 
-void GuiRunner::setLanguage(const QString& language)
+bool GuiRunner::applyTranslator(const QString& language)
 {
     if (m_translator) {
         QCoreApplication::removeTranslator(m_translator);
         delete m_translator;
         m_translator = nullptr;
     }
-    if (language != QLatin1String("en")) {
-        auto* translator = new QTranslator(this);
-        if (translator->load(QLocale(language), QStringLiteral("alarmmanager"), QStringLiteral("_"), TRANSLATIONS)) {
-            QCoreApplication::installTranslator(translator);
-            m_translator = translator;
-        } else {
-            delete translator;
-            QTextStream(stderr) << "No translation for " << language << '\n';
-        }
+    m_language = QStringLiteral("en");
+    if (language == QLatin1String("en"))
+        return true;
+    auto* translator = new QTranslator(this);
+    if (!translator->load(QLocale(language), QStringLiteral("alarmmanager"), QStringLiteral("_"), TRANSLATIONS)) {
+        delete translator;
+        QTextStream(stderr) << "No translation for " << language << '\n';
+        return false;
     }
-    m_language = m_translator ? language : QStringLiteral("en");
+    QCoreApplication::installTranslator(translator);
+    m_translator = translator;
+    m_language = language;
+    return true;
+}
+
+void GuiRunner::setLanguage(const QString& language)
+{
+    applyTranslator(language);
     if (m_engine)
         m_engine->retranslate();
     // The plug-in's list texts are made when rows are read; a reload redraws them in the new language.

@@ -50,6 +50,7 @@ signals:
     void languageChanged();
 
 private:
+    bool applyTranslator(const QString& language);
     void takeScreenshot();
 
     AlarmHost* m_host;

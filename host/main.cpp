@@ -51,6 +51,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
                                      QStringLiteral("Milliseconds the server takes per answer (default 30)."),
                                      QStringLiteral("ms"), QStringLiteral("30"));
     const QCommandLineOption list(QStringLiteral("list"), QStringLiteral("Print the alarm list and exit (no window)."));
+    const QCommandLineOption noList(QStringLiteral("no-list"), QStringLiteral("Do not print the alarm list."));
     const QCommandLineOption gui(QStringLiteral("gui"), QStringLiteral("Show the example QML page."));
     const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("Machine-readable output."));
     const QCommandLineOption filter(QStringLiteral("filter"), QStringLiteral("Show only rules matching the words."),
@@ -91,7 +92,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);
     }
-    parser.addOptions({data, plugin, latency, list, gui, json, filter, sort, fire, watch, timeout, screenshot, search,
+    parser.addOptions({data, plugin, latency, list, noList, gui, json, filter, sort, fire, watch, timeout, screenshot, search,
                        language, camera});
     if (!parser.parse(arguments)) {
         *message = parser.errorText();
@@ -117,6 +118,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     script.sort = parser.value(sort);
     script.isJson = parser.isSet(json);
     script.isWatching = parser.isSet(watch);
+    script.isListing = !parser.isSet(noList);
     script.timeoutMs = std::max(100, parser.value(timeout).toInt());
 
     commandLine.gui.screenshotPath = parser.value(screenshot);
@@ -125,7 +127,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     commandLine.gui.cameraId = parser.value(camera);
     commandLine.gui.timeoutMs = script.timeoutMs;
 
-    const bool isScripted = parser.isSet(list) || parser.isSet(json) || parser.isSet(watch) || !script.fires.isEmpty()
+    const bool isScripted = parser.isSet(list) || parser.isSet(noList) || parser.isSet(json) || parser.isSet(watch) || !script.fires.isEmpty()
         || !script.additions.isEmpty() || !script.edits.isEmpty() || !script.toggles.isEmpty()
         || !script.deletions.isEmpty() || !script.concurrentEdits.isEmpty();
     commandLine.isGui = parser.isSet(screenshot) || parser.isSet(gui) || (!isScripted && hasDisplay());

@@ -1,0 +1,98 @@
+#include <QDir>
+#include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// The example QML page, rendered offscreen by alarm-host: it lists the site's rules, the search field
+// narrows the list, and the screenshot (kept in the build folder under artefacts/) shows real content.
+class tst_AlarmHostPage : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void pageShows_data();
+    void pageShows();
+
+private:
+    QJsonObject screenshot(const QString& file, const QStringList& arguments);
+};
+
+void tst_AlarmHostPage::initTestCase()
+{
+#ifndef ALARM_HOST_EXECUTABLE
+    QSKIP("this build has no alarm-host");
+#else
+    QVERIFY(QDir().mkpath(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)));
+#endif
+}
+
+QJsonObject tst_AlarmHostPage::screenshot(const QString& file, const QStringList& arguments)
+{
+#ifdef ALARM_HOST_EXECUTABLE
+    QTemporaryDir dataDir;
+    QProcess host;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    host.setProcessEnvironment(environment);
+    host.start(QStringLiteral(ALARM_HOST_EXECUTABLE),
+               QStringList{"--data", dataDir.path(), "--latency", "5", "--timeout", "30000", "--screenshot", file} + arguments);
+    if (!host.waitForFinished(120000) || host.exitCode() != 0) {
+        host.kill();
+        qWarning("alarm-host failed:\n%s", host.readAllStandardError().constData());
+        return {};
+    }
+    return QJsonDocument::fromJson(host.readAllStandardOutput()).object();
+#else
+    Q_UNUSED(file);
+    Q_UNUSED(arguments);
+    return {};
+#endif
+}
+
+void tst_AlarmHostPage::pageShows_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("listCount");
+    QTest::newRow("whole list") << "alarm-page.png" << QStringList() << 64;
+    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator"}) << 4;
+    QTest::newRow("view cell of the gate camera") << "alarm-page-gate.png"
+                                                  << QStringList({"--camera", "cam-01", "--search", "gate"}) << 9;
+}
+
+void tst_AlarmHostPage::pageShows()
+{
+    QFETCH(QString, fileName);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, listCount);
+#ifdef ALARM_HOST_ARTEFACT_DIR
+    const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(fileName);
+    QFile::remove(file);
+
+    const QJsonObject report = screenshot(file, arguments);
+
+    QCOMPARE(report.value(QLatin1String("listCount")).toInt(), listCount);
+    QCOMPARE(report.value(QLatin1String("modelCount")).toInt(), listCount);
+    const QImage image(file);
+    QVERIFY2(!image.isNull(), qPrintable(file));
+    QVERIFY(image.width() >= 1000 && image.height() >= 600);
+    // A page with text, rows and controls has many colours; an empty or failed render has one or two.
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); y += 3) {
+        for (int x = 0; x < image.width(); x += 3)
+            colours.insert(image.pixel(x, y));
+    }
+    QVERIFY2(colours.size() > 40, qPrintable(QString::number(colours.size())));
+#else
+    Q_UNUSED(fileName);
+    Q_UNUSED(arguments);
+    Q_UNUSED(listCount);
+#endif
+}
+
+QTEST_MAIN(tst_AlarmHostPage)
+#include "tst_alarmhostpage.moc"
