@@ -128,7 +128,8 @@ void tst_AlarmHost::filterNarrowsTheList_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("expectedIds");
-    QTest::newRow("name word, any case") << "operator" << QStringList({"1057", "1058", "1059", "1060"});
+    QTest::newRow("name word, any case") << "OPERATOR:" << QStringList({"1057", "1058", "1059", "1060"});
+    QTest::newRow("role in a notification target") << "operators" << QStringList({"1002", "1022"});
     QTest::newRow("two words must both match") << "operator lockdown" << QStringList({"1058"});
     QTest::newRow("nothing matches") << "zebra-crossing" << QStringList();
 }

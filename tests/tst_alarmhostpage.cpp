@@ -59,9 +59,9 @@ void tst_AlarmHostPage::pageShows_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("listCount");
     QTest::newRow("whole list") << "alarm-page.png" << QStringList() << 64;
-    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator"}) << 4;
-    QTest::newRow("view cell of the gate camera") << "alarm-page-gate.png"
-                                                  << QStringList({"--camera", "cam-01", "--search", "gate"}) << 9;
+    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4;
+    QTest::newRow("view cell of the gatehouse") << "alarm-page-gatehouse.png"
+                                                << QStringList({"--camera", "cam-03", "--search", "lockdown"}) << 1;
 }
 
 void tst_AlarmHostPage::pageShows()

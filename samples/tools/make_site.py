@@ -183,9 +183,10 @@ def ext_io(device, io, index, value="High", lat=0):
 
 
 def tcp(station, text, rule_type="Contains", case_insensitive="true"):
-    return ext("ExtTCPMessage", "<StationAddress>%s</StationAddress><ExtTCPMessage>%s<RuleText>%s</RuleText>"
+    # "Rule" holds the text to match as its own text, beside the latency.
+    return ext("ExtTCPMessage", "<ExtTCPMessage><StationAddress>%s</StationAddress><Rule>%s<Latency>0</Latency></Rule>"
                "<RuleType>%s</RuleType><CaseInsensitive>%s</CaseInsensitive></ExtTCPMessage>" % (
-                   station, latency(0), text, rule_type, case_insensitive))
+                   station, text, rule_type, case_insensitive))
 
 
 def data_magnet(category, conditions, cameras):
@@ -242,8 +243,10 @@ def preset(*entries):
 
 
 def set_do(device, *outputs):
+    # Outputs are switched to "1" (trigger) or "0" (normal).
+    levels = {"High": "1", "Low": "0"}
     return "<Action><SetDO><Entry><Name>%s</Name>%s</Entry></SetDO></Action>" % (device, "".join(
-        "<DO><Idx>%d</Idx><Val>%s</Val><Period>%d</Period></DO>" % o for o in outputs))
+        "<DO><Idx>%d</Idx><Val>%s</Val><Period>%d</Period></DO>" % (i, levels[v], p) for i, v, p in outputs))
 
 
 def popup(cams, include_trigger=True):
