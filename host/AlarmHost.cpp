@@ -12,11 +12,15 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonObject>
 #include <QPluginLoader>
 #include <QStandardPaths>
+#include <QUrl>
+
+using namespace PluginAlarmManagerCommon;
 
 namespace {
 const QString SAMPLE_SITE = QStringLiteral(":/samples/site");
@@ -134,6 +138,45 @@ QAbstractItemModel* AlarmHost::viewCellTriggerModel(const QString& cameraId) con
     return m_plugin ? qobject_cast<QAbstractItemModel*>(
                           invokeForObject(m_plugin, "getAlarmViewCellTriggerModel", {cameraId}))
                     : nullptr;
+}
+
+bool AlarmHost::findVirtualTrigger(const QString& spec, VirtualTrigger* trigger) const
+{
+    const QString camera = spec.contains(QLatin1Char('/')) ? spec.section(QLatin1Char('/'), 0, 0) : QString();
+    const QString name = spec.contains(QLatin1Char('/')) ? spec.section(QLatin1Char('/'), 1) : spec;
+    // The unfiltered list: a trigger stays reachable while the page shows a search result.
+    auto* model = m_plugin ? qobject_cast<QAbstractItemModel*>(invokeForObject(m_plugin, "getAlarmModel")) : nullptr;
+    if (!model)
+        return false;
+    const int triggerXmlRole = model->roleNames().key("triggerXmlRole", -1);
+    for (int row = 0; row < model->rowCount(); ++row) {
+        QDomDocument document;
+        if (!document.setContent(model->index(row, 0).data(triggerXmlRole).toString()))
+            continue;
+        const QDomNodeList triggers = document.elementsByTagName(ARG_VIRTUAL_TRIGGER);
+        for (int i = 0; i < triggers.size(); ++i) {
+            const QDomElement candidate = triggers.at(i).toElement();
+            const QString cameraId = candidate.firstChildElement(QStringLiteral("Camera")).text();
+            if (QUrl::fromPercentEncoding(candidate.firstChildElement(QStringLiteral("Name")).text().toLatin1()) != name
+                || (!camera.isEmpty() && cameraId != camera))
+                continue;
+            *trigger = {name, cameraId, candidate.firstChildElement(QStringLiteral("Id")).text().toInt(),
+                        candidate.firstChildElement(QStringLiteral("IconType")).text().toInt()};
+            return true;
+        }
+    }
+    return false;
+}
+
+bool AlarmHost::fireVirtualTrigger(const VirtualTrigger& trigger)
+{
+    bool isSent = false;
+    if (m_plugin)
+        QMetaObject::invokeMethod(m_plugin, "sendVirtualTriggerAlarm", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
+                                  Q_ARG(QString, trigger.name), Q_ARG(QString, trigger.cameraId),
+                                  Q_ARG(int, trigger.iconType), Q_ARG(int, trigger.id),
+                                  Q_ARG(QString, m_site->cameraName(trigger.cameraId)));
+    return isSent;
 }
 
 QObject* invokeForObject(QObject* target, const char* name, const QVariantList& arguments)

@@ -29,6 +29,15 @@ public:
         int latencyMs = 30;
     };
 
+    // A virtual trigger as a view cell knows it: the camera that shows the button, its id and icon.
+    struct VirtualTrigger
+    {
+        QString name;
+        QString cameraId;
+        int id = 0;
+        int iconType = 0;
+    };
+
     explicit AlarmHost(QObject* parent = nullptr);
     ~AlarmHost() override;
 
@@ -51,6 +60,11 @@ public:
     HostFramework* framework() const { return m_framework; }
     QAbstractItemModel* filterModel() const;
     QAbstractItemModel* viewCellTriggerModel(const QString& cameraId) const;
+
+    // Finds a virtual trigger by "name" or "camera/name" among the rules of the plug-in's alarm list.
+    bool findVirtualTrigger(const QString& spec, VirtualTrigger* trigger) const;
+    // Presses the trigger's button: the plug-in's sendVirtualTriggerAlarm. False when it was not sent.
+    bool fireVirtualTrigger(const VirtualTrigger& trigger);
 
 signals:
     // Every signal the plug-in emits, by name, with its arguments.

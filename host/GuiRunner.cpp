@@ -1,6 +1,7 @@
 #include "GuiRunner.h"
 
 #include "EnabledStateFilter.h"
+#include "SimulatedServer.h"
 #include "Site.h"
 
 #include <QAbstractItemModel>
@@ -67,11 +68,17 @@ int GuiRunner::run(const AlarmHost::Options& options)
         applyTranslator(m_settings.language);
 
     m_isScreenshotPending = !m_settings.screenshotPath.isEmpty();
+    connect(m_host, &AlarmHost::pluginSignal, this, [this](const QString& name) {
+        if (name == QLatin1String("getAlarmResp") && m_isFirstList) {
+            m_isFirstList = false;
+            QTimer::singleShot(0, this, &GuiRunner::listArrived);
+        } else if (name == QLatin1String("alarmTriggered") && m_expectedAlarms > 0 && --m_expectedAlarms == 0
+                   && m_isScreenshotPending) {
+            // Let the notification that follows the alarm reach the page too.
+            QTimer::singleShot(m_host->server()->latency() + 50, this, &GuiRunner::takeScreenshot);
+        }
+    });
     if (m_isScreenshotPending) {
-        connect(m_host, &AlarmHost::pluginSignal, this, [this](const QString& name) {
-            if (name == QLatin1String("getAlarmResp") && m_isScreenshotPending)
-                QTimer::singleShot(0, this, &GuiRunner::takeScreenshot);
-        });
         QTimer::singleShot(m_settings.timeoutMs, this, [] {
             QTextStream(stderr) << "No alarm list arrived; no screenshot taken.\n";
             QCoreApplication::exit(3);
@@ -132,8 +139,24 @@ void GuiRunner::reconnect()
     m_host->reconnect();
 }
 
+void GuiRunner::listArrived()
+{
+    // Triggers asked for on the command line are pressed once the rules are known.
+    for (const QString& spec : std::as_const(m_settings.fires)) {
+        AlarmHost::VirtualTrigger trigger;
+        if (m_host->findVirtualTrigger(spec, &trigger) && m_host->fireVirtualTrigger(trigger))
+            ++m_expectedAlarms;
+        else
+            QTextStream(stderr) << "Cannot fire " << spec << '\n';
+    }
+    if (m_isScreenshotPending && m_expectedAlarms == 0)
+        takeScreenshot();
+}
+
 void GuiRunner::takeScreenshot()
 {
+    if (!m_isScreenshotPending)
+        return;
     m_isScreenshotPending = false;
     auto* window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().value(0));
     if (!window) {
@@ -148,12 +171,14 @@ void GuiRunner::takeScreenshot()
         const QImage image = window->grabWindow();
         const bool isSaved = !image.isNull() && image.save(m_settings.screenshotPath);
         QObject* list = window->findChild<QObject*>(QStringLiteral("alarmListView"));
+        QObject* fired = window->findChild<QObject*>(QStringLiteral("firedView"));
         const QJsonObject report{{QStringLiteral("screenshot"), m_settings.screenshotPath},
                                  {QStringLiteral("saved"), isSaved},
                                  {QStringLiteral("width"), image.width()},
                                  {QStringLiteral("height"), image.height()},
                                  {QStringLiteral("listCount"), list ? list->property("count").toInt() : -1},
-                                 {QStringLiteral("modelCount"), m_alarmList->rowCount()}};
+                                 {QStringLiteral("modelCount"), m_alarmList->rowCount()},
+                                 {QStringLiteral("firedCount"), fired ? fired->property("count").toInt() : -1}};
         QTextStream(stdout) << QJsonDocument(report).toJson(QJsonDocument::Indented);
         QCoreApplication::exit(isSaved ? 0 : 2);
     });

@@ -29,6 +29,7 @@ public:
         QString searchText;
         QString language;
         QString cameraId;
+        QStringList fires;
         int timeoutMs = 10000;
     };
 
@@ -51,6 +52,7 @@ signals:
 
 private:
     bool applyTranslator(const QString& language);
+    void listArrived();
     void takeScreenshot();
 
     AlarmHost* m_host;
@@ -60,4 +62,6 @@ private:
     EnabledStateFilter* m_alarmList = nullptr;
     QString m_language = QStringLiteral("en");
     bool m_isScreenshotPending = false;
+    bool m_isFirstList = true;
+    int m_expectedAlarms = 0;
 };

@@ -2,11 +2,10 @@
 
 #include "AlarmHost.h"
 #include "HostFramework.h"
-#include "SimulatedServer.h"
 #include "Site.h"
+#include "SimulatedServer.h"
 
 #include <QAbstractItemModel>
-#include <QDomDocument>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QSocketNotifier>
@@ -352,35 +351,13 @@ HeadlessRunner::Step HeadlessRunner::deleteAlarm(const QString& id)
 HeadlessRunner::Step HeadlessRunner::fire(const QString& spec)
 {
     Step step{QStringLiteral("fire"), spec, false, {}};
-    const QString camera = spec.contains(QLatin1Char('/')) ? spec.section(QLatin1Char('/'), 0, 0) : QString();
-    const QString name = spec.contains(QLatin1Char('/')) ? spec.section(QLatin1Char('/'), 1) : spec;
-    // The virtual trigger's camera, id and icon come from the rules that hold it, as a view cell has them.
-    QDomElement trigger;
-    for (int row = 0; row < m_model->rowCount() && trigger.isNull(); ++row) {
-        QDomDocument document;
-        if (!document.setContent(rowValue(row, "triggerXmlRole").toString()))
-            continue;
-        const QDomNodeList triggers = document.elementsByTagName(QStringLiteral("VirtualTrigger"));
-        for (int i = 0; i < triggers.size() && trigger.isNull(); ++i) {
-            const QDomElement candidate = triggers.at(i).toElement();
-            if (candidate.firstChildElement(QStringLiteral("Name")).text() == name
-                && (camera.isEmpty() || candidate.firstChildElement(QStringLiteral("Camera")).text() == camera))
-                trigger = candidate;
-        }
-    }
-    if (trigger.isNull()) {
-        step.details.insert(QStringLiteral("error"), QStringLiteral("no rule holds a virtual trigger named %1").arg(name));
+    AlarmHost::VirtualTrigger trigger;
+    if (!m_host->findVirtualTrigger(spec, &trigger)) {
+        step.details.insert(QStringLiteral("error"), QStringLiteral("no rule holds the virtual trigger %1").arg(spec));
         return step;
     }
-    const QString cameraId = trigger.firstChildElement(QStringLiteral("Camera")).text();
-    const int triggerId = trigger.firstChildElement(QStringLiteral("Id")).text().toInt();
-    const int iconType = trigger.firstChildElement(QStringLiteral("IconType")).text().toInt();
     const qsizetype firstSignal = m_signals.size();
-    bool isSent = false;
-    QMetaObject::invokeMethod(m_host->plugin(), "sendVirtualTriggerAlarm", Qt::DirectConnection,
-                              Q_RETURN_ARG(bool, isSent), Q_ARG(QString, name), Q_ARG(QString, cameraId),
-                              Q_ARG(int, iconType), Q_ARG(int, triggerId),
-                              Q_ARG(QString, m_host->site()->cameraName(cameraId)));
+    const bool isSent = m_host->fireVirtualTrigger(trigger);
     QVariantList arguments;
     if (!isSent || !waitFor(QStringLiteral("sendVirtualTriggerAlarmResp"), &arguments)) {
         step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
@@ -392,7 +369,7 @@ HeadlessRunner::Step HeadlessRunner::fire(const QString& spec)
     for (qsizetype i = firstSignal; i < m_signals.size(); ++i)
         followed.append(QJsonObject{{QStringLiteral("signal"), m_signals.at(i).first},
                                     {QStringLiteral("arguments"), jsonValue(m_signals.at(i).second)}});
-    step.details.insert(QStringLiteral("camera"), cameraId);
+    step.details.insert(QStringLiteral("camera"), trigger.cameraId);
     step.details.insert(QStringLiteral("signals"), followed);
     if (!m_isPrintingLive && !m_script.isJson) {
         for (qsizetype i = firstSignal; i < m_signals.size(); ++i)

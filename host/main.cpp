@@ -125,9 +125,10 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     commandLine.gui.searchText = parser.value(search);
     commandLine.gui.language = parser.value(language);
     commandLine.gui.cameraId = parser.value(camera);
+    commandLine.gui.fires = script.fires;
     commandLine.gui.timeoutMs = script.timeoutMs;
 
-    const bool isScripted = parser.isSet(list) || parser.isSet(noList) || parser.isSet(json) || parser.isSet(watch) || !script.fires.isEmpty()
+    const bool isScripted = parser.isSet(list) || parser.isSet(noList) || parser.isSet(json) || parser.isSet(watch)
         || !script.additions.isEmpty() || !script.edits.isEmpty() || !script.toggles.isEmpty()
         || !script.deletions.isEmpty() || !script.concurrentEdits.isEmpty();
     commandLine.isGui = parser.isSet(screenshot) || parser.isSet(gui) || (!isScripted && hasDisplay());

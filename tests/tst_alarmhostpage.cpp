@@ -58,10 +58,14 @@ void tst_AlarmHostPage::pageShows_data()
     QTest::addColumn<QString>("fileName");
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("listCount");
-    QTest::newRow("whole list") << "alarm-page.png" << QStringList() << 64;
-    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4;
-    QTest::newRow("view cell of the gatehouse") << "alarm-page-gatehouse.png"
-                                                << QStringList({"--camera", "cam-03", "--search", "lockdown"}) << 1;
+    QTest::addColumn<int>("firedCount");
+    QTest::newRow("whole list") << "alarm-page.png" << QStringList() << 64 << 0;
+    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4 << 0;
+    // The lockdown rule fires with a sound and an e-map notification.
+    QTest::newRow("fired alarm in the panel") << "alarm-page-fired.png"
+                                              << QStringList({"--camera", "cam-03", "--search", "lockdown", "--fire",
+                                                              "cam-03/Lockdown"})
+                                              << 1 << 3;
 }
 
 void tst_AlarmHostPage::pageShows()
@@ -69,6 +73,7 @@ void tst_AlarmHostPage::pageShows()
     QFETCH(QString, fileName);
     QFETCH(QStringList, arguments);
     QFETCH(int, listCount);
+    QFETCH(int, firedCount);
 #ifdef ALARM_HOST_ARTEFACT_DIR
     const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(fileName);
     QFile::remove(file);
@@ -77,6 +82,7 @@ void tst_AlarmHostPage::pageShows()
 
     QCOMPARE(report.value(QLatin1String("listCount")).toInt(), listCount);
     QCOMPARE(report.value(QLatin1String("modelCount")).toInt(), listCount);
+    QCOMPARE(report.value(QLatin1String("firedCount")).toInt(), firedCount);
     const QImage image(file);
     QVERIFY2(!image.isNull(), qPrintable(file));
     QVERIFY(image.width() >= 1000 && image.height() >= 600);
@@ -91,6 +97,7 @@ void tst_AlarmHostPage::pageShows()
     Q_UNUSED(fileName);
     Q_UNUSED(arguments);
     Q_UNUSED(listCount);
+    Q_UNUSED(firedCount);
 #endif
 }
 
