@@ -166,6 +166,10 @@ void GuiRunner::takeScreenshot()
     QObject* search = window->findChild<QObject*>(QStringLiteral("searchField"));
     if (search && !m_settings.searchText.isEmpty())
         search->setProperty("text", m_settings.searchText);
+    if (m_settings.editorRow >= 0) {
+        if (QObject* editor = window->findChild<QObject*>(QStringLiteral("ruleEditor")))
+            QMetaObject::invokeMethod(editor, "openForRow", Q_ARG(QVariant, m_settings.editorRow));
+    }
     // Give the list a moment to lay out its delegates before grabbing.
     QTimer::singleShot(500, this, [this, window] {
         const QImage image = window->grabWindow();

@@ -30,6 +30,7 @@ public:
         QString language;
         QString cameraId;
         QStringList fires;
+        int editorRow = -1;
         int timeoutMs = 10000;
     };
 

@@ -88,7 +88,10 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
                                       QStringLiteral("lang"));
     const QCommandLineOption camera(QStringLiteral("camera"), QStringLiteral("Camera whose view cell the page shows."),
                                     QStringLiteral("id"));
-    for (QCommandLineOption option : {addJson, editJson, toggle, remove, concurrentEdit}) {
+    const QCommandLineOption editorRow(QStringLiteral("editor-row"),
+                                       QStringLiteral("Open the rule editor on this row of the page."),
+                                       QStringLiteral("row"));
+    for (QCommandLineOption option : {addJson, editJson, toggle, remove, concurrentEdit, editorRow}) {
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);
     }
@@ -126,6 +129,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     commandLine.gui.language = parser.value(language);
     commandLine.gui.cameraId = parser.value(camera);
     commandLine.gui.fires = script.fires;
+    commandLine.gui.editorRow = parser.isSet(editorRow) ? parser.value(editorRow).toInt() : -1;
     commandLine.gui.timeoutMs = script.timeoutMs;
 
     const bool isScripted = parser.isSet(list) || parser.isSet(noList) || parser.isSet(json) || parser.isSet(watch)

@@ -134,11 +134,31 @@ ApplicationWindow {
         function onClientNotification(type, data, timecardId) {
             var kinds = [tr("Go to E-Map"), tr("Popup window"), tr("Sound the alarm")]
             var items = []
-            for (var i = 0; data && i < data.length; ++i)
-                items.push(typeof data[i] === "string" ? data[i] : (data[i].name || data[i].mapId || ""))
+            for (var i = 0; data && i < data.length; ++i) {
+                if (type === 0)
+                    items.push(mapName(data[i].mapId) + cameraNames(data[i].playCamList))
+                else if (type === 2)
+                    items.push(data[i].name)
+                else
+                    items.push(site.cameraName(data[i]) || data[i])
+            }
             firedModel.insert(0, { "kind": "notification", "title": kinds[type] || "", "detail": items.join(", "),
                                    "time": new Date().toLocaleTimeString(Qt.locale(), "hh:mm:ss") })
         }
+    }
+
+    function mapName(mapId) {
+        for (var i = 0; i < site.maps.length; ++i) {
+            if (site.maps[i].id === mapId)
+                return site.maps[i].name
+        }
+        return mapId
+    }
+    function cameraNames(cameras) {
+        var names = []
+        for (var i = 0; cameras && i < cameras.length; ++i)
+            names.push(site.cameraName(cameras[i]) || cameras[i])
+        return names.length > 0 ? " (" + names.join(", ") + ")" : ""
     }
 
     header: ToolBar {
@@ -486,6 +506,7 @@ ApplicationWindow {
 
     RuleEditor {
         id: editor
+        objectName: "ruleEditor"
         anchors.centerIn: parent
         onSubmitted: pendingRequests++
     }
