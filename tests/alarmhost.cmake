@@ -20,7 +20,8 @@ foreach(host_test tst_alarmhost tst_alarmhostpage)
     if(ALARM_BUILD_HOST)
         target_compile_definitions(${host_test} PRIVATE
             ALARM_HOST_EXECUTABLE="${CMAKE_BINARY_DIR}/bin/alarm-host"
-            ALARM_HOST_ARTEFACT_DIR="${CMAKE_BINARY_DIR}/artefacts")
+            ALARM_HOST_ARTEFACT_DIR="${CMAKE_BINARY_DIR}/artefacts"
+            ALARM_HOST_LSAN_SUPPRESSIONS="${PROJECT_SOURCE_DIR}/host/qtquick.lsan.supp")
         add_dependencies(${host_test} alarm-host)
     endif()
 endforeach()
