@@ -72,9 +72,8 @@ int GuiRunner::run(const AlarmHost::Options& options)
         if (name == QLatin1String("getAlarmResp") && m_isFirstList) {
             m_isFirstList = false;
             QTimer::singleShot(0, this, &GuiRunner::listArrived);
-        } else if (name == QLatin1String("alarmTriggered") && m_expectedAlarms > 0 && --m_expectedAlarms == 0
-                   && m_isScreenshotPending) {
-            // Let the notification that follows the alarm reach the page too.
+        } else if (m_awaitedSignals.removeOne(name) && m_awaitedSignals.isEmpty() && m_isScreenshotPending) {
+            // Let what follows the last answer (a fired alarm's notifications) reach the page too.
             QTimer::singleShot(m_host->server()->latency() + 50, this, &GuiRunner::takeScreenshot);
         }
     });
@@ -145,11 +144,25 @@ void GuiRunner::listArrived()
     for (const QString& spec : std::as_const(m_settings.fires)) {
         AlarmHost::VirtualTrigger trigger;
         if (m_host->findVirtualTrigger(spec, &trigger) && m_host->fireVirtualTrigger(trigger))
-            ++m_expectedAlarms;
+            m_awaitedSignals.append(QStringLiteral("alarmTriggered"));
         else
             QTextStream(stderr) << "Cannot fire " << spec << '\n';
     }
-    if (m_isScreenshotPending && m_expectedAlarms == 0)
+    QObject* window = m_engine->rootObjects().value(0);
+    for (const QString& spec : std::as_const(m_settings.pageActions)) {
+        const QString action = spec.section(QLatin1Char(':'), 0, 0);
+        QVariant isDone;
+        QMetaObject::invokeMethod(window, "performAction", Q_RETURN_ARG(QVariant, isDone), Q_ARG(QVariant, action),
+                                  Q_ARG(QVariant, spec.section(QLatin1Char(':'), 1)));
+        if (!isDone.toBool()) {
+            QTextStream(stderr) << "Cannot " << spec << '\n';
+            continue;
+        }
+        m_awaitedSignals.append(action == QLatin1String("duplicate") ? QStringLiteral("addAlarmResp")
+                                : action == QLatin1String("delete")  ? QStringLiteral("deleteAlarmsResp")
+                                                                     : QStringLiteral("toggleAlarmResp"));
+    }
+    if (m_isScreenshotPending && m_awaitedSignals.isEmpty())
         takeScreenshot();
 }
 

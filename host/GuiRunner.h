@@ -31,6 +31,7 @@ public:
         QString cameraId;
         QStringList fires;
         int editorRow = -1;
+        QStringList pageActions; // "disable:1001", "delete:1002", "duplicate:1003" 
         int timeoutMs = 10000;
     };
 
@@ -64,5 +65,5 @@ private:
     QString m_language = QStringLiteral("en");
     bool m_isScreenshotPending = false;
     bool m_isFirstList = true;
-    int m_expectedAlarms = 0;
+    QStringList m_awaitedSignals;
 };

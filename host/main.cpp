@@ -91,7 +91,11 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     const QCommandLineOption editorRow(QStringLiteral("editor-row"),
                                        QStringLiteral("Open the rule editor on this row of the page."),
                                        QStringLiteral("row"));
-    for (QCommandLineOption option : {addJson, editJson, toggle, remove, concurrentEdit, editorRow}) {
+    const QCommandLineOption pageAction(QStringLiteral("page-action"),
+                                        QStringLiteral("Use the page's buttons: enable, disable, delete or duplicate "
+                                                       "a rule."),
+                                        QStringLiteral("action:id"));
+    for (QCommandLineOption option : {addJson, editJson, toggle, remove, concurrentEdit, editorRow, pageAction}) {
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);
     }
@@ -129,6 +133,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     commandLine.gui.language = parser.value(language);
     commandLine.gui.cameraId = parser.value(camera);
     commandLine.gui.fires = script.fires;
+    commandLine.gui.pageActions = parser.values(pageAction);
     commandLine.gui.editorRow = parser.isSet(editorRow) ? parser.value(editorRow).toInt() : -1;
     commandLine.gui.timeoutMs = script.timeoutMs;
 

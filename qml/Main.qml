@@ -97,6 +97,32 @@ ApplicationWindow {
                                   alarmList.value(row, "enabledRole")))
             pendingRequests++
     }
+    // What a user does with the page's buttons, by name; the host's scripted runs use it.
+    function performAction(action, id) {
+        var row = -1
+        for (var r = 0; r < alarmList.count && row < 0; ++r) {
+            if (alarmList.value(r, "idRole") === id)
+                row = r
+        }
+        if (row < 0)
+            return false
+        if (action === "duplicate") {
+            alarmListView.currentIndex = row
+            duplicate(row)
+            return true
+        }
+        selection = ({})
+        setSelected(id, true)
+        if (action === "enable" || action === "disable") {
+            toggleSelected(action === "enable")
+            return true
+        }
+        if (action === "delete") {
+            confirmDelete.accepted()
+            return true
+        }
+        return false
+    }
     function note(text) { statusText = new Date().toLocaleTimeString(Qt.locale(), "hh:mm:ss") + "  " + text }
 
     Connections {

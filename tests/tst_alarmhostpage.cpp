@@ -16,9 +16,11 @@ private slots:
     void initTestCase();
     void pageShows_data();
     void pageShows();
+    void pageButtonsChangeTheRules();
 
 private:
-    QJsonObject screenshot(const QString& file, const QStringList& arguments);
+    QJsonObject screenshot(const QString& file, const QStringList& arguments, const QString& dataDir = QString());
+    QJsonObject listOf(const QString& dataDir);
 };
 
 void tst_AlarmHostPage::initTestCase()
@@ -30,10 +32,11 @@ void tst_AlarmHostPage::initTestCase()
 #endif
 }
 
-QJsonObject tst_AlarmHostPage::screenshot(const QString& file, const QStringList& arguments)
+QJsonObject tst_AlarmHostPage::screenshot(const QString& file, const QStringList& arguments, const QString& dataPath)
 {
 #ifdef ALARM_HOST_EXECUTABLE
-    QTemporaryDir dataDir;
+    QTemporaryDir temporaryDir;
+    const QString dataDir = dataPath.isEmpty() ? temporaryDir.path() : dataPath;
     QProcess host;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -42,7 +45,7 @@ QJsonObject tst_AlarmHostPage::screenshot(const QString& file, const QStringList
                        QStringLiteral("suppressions=%1:print_suppressions=0").arg(QStringLiteral(ALARM_HOST_LSAN_SUPPRESSIONS)));
     host.setProcessEnvironment(environment);
     host.start(QStringLiteral(ALARM_HOST_EXECUTABLE),
-               QStringList{"--data", dataDir.path(), "--latency", "5", "--timeout", "30000", "--screenshot", file} + arguments);
+               QStringList{"--data", dataDir, "--latency", "5", "--timeout", "30000", "--screenshot", file} + arguments);
     if (!host.waitForFinished(120000) || host.exitCode() != 0) {
         host.kill();
         qWarning("alarm-host failed:\n%s", host.readAllStandardError().constData());
@@ -52,6 +55,21 @@ QJsonObject tst_AlarmHostPage::screenshot(const QString& file, const QStringList
 #else
     Q_UNUSED(file);
     Q_UNUSED(arguments);
+    Q_UNUSED(dataPath);
+    return {};
+#endif
+}
+
+QJsonObject tst_AlarmHostPage::listOf(const QString& dataDir)
+{
+#ifdef ALARM_HOST_EXECUTABLE
+    QProcess host;
+    host.start(QStringLiteral(ALARM_HOST_EXECUTABLE), {"--data", dataDir, "--list", "--json", "--latency", "0"});
+    if (!host.waitForFinished(60000))
+        host.kill();
+    return QJsonDocument::fromJson(host.readAllStandardOutput()).object();
+#else
+    Q_UNUSED(dataDir);
     return {};
 #endif
 }
@@ -101,6 +119,33 @@ void tst_AlarmHostPage::pageShows()
     Q_UNUSED(arguments);
     Q_UNUSED(listCount);
     Q_UNUSED(firedCount);
+#endif
+}
+
+void tst_AlarmHostPage::pageButtonsChangeTheRules()
+{
+#ifdef ALARM_HOST_ARTEFACT_DIR
+    // Given the page on the sample site
+    QTemporaryDir dataDir;
+    const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(QStringLiteral("alarm-page-buttons.png"));
+
+    // When the user switches one rule off, deletes another and duplicates a third with the page's buttons
+    const QJsonObject report = screenshot(file, {"--page-action", "disable:1001", "--page-action", "delete:1002",
+                                                 "--page-action", "duplicate:1003"},
+                                          dataDir.path());
+
+    // Then the page and the server's rules show all three changes
+    QCOMPARE(report.value(QLatin1String("listCount")).toInt(), 64);
+    QStringList rules;
+    for (const QJsonValue& alarm : listOf(dataDir.path()).value(QLatin1String("alarms")).toArray()) {
+        const QJsonObject rule = alarm.toObject();
+        const QString id = rule.value(QLatin1String("id")).toString();
+        if (id == QLatin1String("1001") || id == QLatin1String("1002") || id == QLatin1String("1065"))
+            rules.append(QStringLiteral("%1 %2 %3").arg(id, rule.value(QLatin1String("name")).toString(),
+                                                         rule.value(QLatin1String("enabled")).toBool() ? "on" : "off"));
+    }
+    rules.sort();
+    QCOMPARE(rules, QStringList({"1001 Gate forced open off", "1065 Intercom call at main gate (copy) on"}));
 #endif
 }
 
