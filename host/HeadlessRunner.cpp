@@ -157,6 +157,8 @@ int HeadlessRunner::run()
         steps.append(toggleAlarm(spec));
     for (const QString& id : std::as_const(m_script.deletions))
         steps.append(deleteAlarm(id));
+    for (const QString& spec : std::as_const(m_script.scheduleUpdates))
+        steps.append(updateSchedule(spec));
     for (const QString& spec : std::as_const(m_script.fires))
         steps.append(fire(spec));
     settle();
@@ -345,6 +347,25 @@ HeadlessRunner::Step HeadlessRunner::deleteAlarm(const QString& id)
         return step;
     }
     step.isSuccess = arguments.value(0).toInt() == 1 && arguments.value(1).toInt() == 1;
+    return step;
+}
+
+HeadlessRunner::Step HeadlessRunner::updateSchedule(const QString& spec)
+{
+    // Every rule on the old template moves to the new one, as the schedule editor saves a template.
+    Step step{QStringLiteral("schedule"), spec, false, {}};
+    const QString oldName = spec.section(QLatin1Char(':'), 0, 0);
+    const QString newName = spec.section(QLatin1Char(':'), 1);
+    bool isSent = false;
+    QMetaObject::invokeMethod(m_host->plugin(), "updateAlarmSchedule", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
+                              Q_ARG(QString, oldName), Q_ARG(QString, newName),
+                              Q_ARG(QString, m_host->site()->scheduleContent(newName)));
+    QVariantList arguments;
+    if (!isSent || !waitFor(QStringLiteral("updateAllAlarmScheduleResp"), &arguments)) {
+        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
+        return step;
+    }
+    step.isSuccess = arguments.value(0).toBool();
     return step;
 }
 

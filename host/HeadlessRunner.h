@@ -25,6 +25,7 @@ public:
         QStringList edits;           // JSON objects with "id"
         QStringList toggles;         // "id:on" / "id:off"
         QStringList deletions;       // ids
+        QStringList scheduleUpdates; // "old template:new template"
         QString filter;
         QString sort;                // role name, optionally ":desc"
         QStringList fires;           // virtual trigger names, optionally "camera/name"
@@ -55,6 +56,7 @@ private:
     Step editAlarm(const QString& json);
     Step toggleAlarm(const QString& spec);
     Step deleteAlarm(const QString& id);
+    Step updateSchedule(const QString& spec);
     Step fire(const QString& spec);
     bool applySort(const QString& spec, QString* errorText);
 

@@ -75,6 +75,9 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     const QCommandLineOption toggle(QStringLiteral("toggle"), QStringLiteral("Switch a rule on or off."),
                                     QStringLiteral("id:on|off"));
     const QCommandLineOption remove(QStringLiteral("delete"), QStringLiteral("Delete a rule."), QStringLiteral("id"));
+    const QCommandLineOption schedule(QStringLiteral("update-schedule"),
+                                      QStringLiteral("Move every rule on one schedule template to another."),
+                                      QStringLiteral("old:new"));
     const QCommandLineOption concurrentEdit(QStringLiteral("concurrent-edit"),
                                             QStringLiteral("Another client edits the rule first."),
                                             QStringLiteral("id"));
@@ -95,7 +98,8 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
                                         QStringLiteral("Use the page's buttons: enable, disable, delete or duplicate "
                                                        "a rule."),
                                         QStringLiteral("action:id"));
-    for (QCommandLineOption option : {addJson, editJson, toggle, remove, concurrentEdit, editorRow, pageAction}) {
+    for (QCommandLineOption option : {addJson, editJson, toggle, remove, schedule, concurrentEdit, editorRow,
+                                       pageAction}) {
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);
     }
@@ -119,6 +123,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
     script.edits = parser.values(editJson);
     script.toggles = parser.values(toggle);
     script.deletions = parser.values(remove);
+    script.scheduleUpdates = parser.values(schedule);
     script.concurrentEdits = parser.values(concurrentEdit);
     script.fires = parser.values(fire);
     script.filter = parser.value(filter);
@@ -139,7 +144,7 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
 
     const bool isScripted = parser.isSet(list) || parser.isSet(noList) || parser.isSet(json) || parser.isSet(watch)
         || !script.additions.isEmpty() || !script.edits.isEmpty() || !script.toggles.isEmpty()
-        || !script.deletions.isEmpty() || !script.concurrentEdits.isEmpty();
+        || !script.deletions.isEmpty() || !script.scheduleUpdates.isEmpty() || !script.concurrentEdits.isEmpty();
     commandLine.isGui = parser.isSet(screenshot) || parser.isSet(gui) || (!isScripted && hasDisplay());
     return true;
 }

@@ -23,6 +23,8 @@ private slots:
     void sortByNameDescending();
     void editsAreKeptAcrossRestarts();
     void staleEditIsRejected();
+    void scheduleTemplateMovesEveryRuleOnIt();
+    void soundsAreSynchronisedOnConnect();
     void firedTriggerReachesTheUser();
     void disabledRuleDoesNotFire();
     void unknownSortRoleIsAnError();
@@ -218,6 +220,40 @@ void tst_AlarmHost::staleEditIsRejected()
     QCOMPARE(summary(alarmById(restarted, QStringLiteral("1003"))),
              QJsonObject({{"id", "1003"}, {"name", "Intercom call at main gate"}, {"enabled", true}, {"revision", 2},
                           {"description", ""}, {"schedule", "All day"}}));
+}
+
+void tst_AlarmHost::scheduleTemplateMovesEveryRuleOnIt()
+{
+    // Given the rules on "Weekday nights" and "Weekend" (one each in the sample)
+    const QJsonObject before = runHost({"--list"});
+    QStringList onWeekdayNights;
+    for (const QJsonValue& alarm : before.value(QLatin1String("alarms")).toArray()) {
+        if (alarm.toObject().value(QLatin1String("schedule")).toString() == QLatin1String("Weekday nights"))
+            onWeekdayNights.append(alarm.toObject().value(QLatin1String("id")).toString());
+    }
+    QCOMPARE(onWeekdayNights, QStringList({"1047"}));
+
+    // When that template is replaced by "Weekend"
+    const QJsonObject output = runHost({"--update-schedule", "Weekday nights:Weekend"});
+
+    // Then the rule runs on the new template at the next revision, here and after a restart
+    QVERIFY(output.value(QLatin1String("steps")).toArray().at(0).toObject().value(QLatin1String("success")).toBool());
+    const QJsonObject moved = alarmById(runHost({"--list"}), QStringLiteral("1047"));
+    QCOMPARE(QJsonArray({moved.value(QLatin1String("schedule")), moved.value(QLatin1String("revision"))}),
+             QJsonArray({"Weekend", 2}));
+}
+
+void tst_AlarmHost::soundsAreSynchronisedOnConnect()
+{
+    // The plug-in fetches the server's sounds it does not have yet into the client's sound folder.
+    runHost({"--list"});
+    const QDir clientSounds(QDir(m_dataDir->path()).filePath(QStringLiteral("client-sounds")));
+    QCOMPARE(clientSounds.entryList(QDir::Files, QDir::Name),
+             QStringList({"chime.mp3", "doorbell.mp3", "evacuation.mp3", "klaxon.mp3", "siren.mp3"}));
+    QFile copy(clientSounds.filePath(QStringLiteral("siren.mp3")));
+    QFile original(QDir(m_dataDir->path()).filePath(QStringLiteral("sounds/siren.mp3")));
+    QVERIFY(copy.open(QIODevice::ReadOnly) && original.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll(), original.readAll());
 }
 
 void tst_AlarmHost::firedTriggerReachesTheUser()

@@ -82,6 +82,7 @@ void tst_AlarmHostPage::pageShows_data()
     QTest::addColumn<int>("firedCount");
     QTest::newRow("whole list") << "alarm-page.png" << QStringList() << 64 << 0;
     QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4 << 0;
+    QTest::newRow("in German") << "alarm-page-de.png" << QStringList({"--language", "de"}) << 64 << 0;
     // The lockdown rule fires with a sound and an e-map notification.
     QTest::newRow("fired alarm in the panel") << "alarm-page-fired.png"
                                               << QStringList({"--camera", "cam-03", "--search", "lockdown", "--fire",
