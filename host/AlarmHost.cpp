@@ -140,10 +140,10 @@ QAbstractItemModel* AlarmHost::viewCellTriggerModel(const QString& cameraId) con
                     : nullptr;
 }
 
-bool AlarmHost::findVirtualTrigger(const QString& spec, VirtualTrigger* trigger) const
+bool AlarmHost::findVirtualTrigger(const QString& choice, VirtualTrigger* trigger) const
 {
-    const QString camera = spec.contains(QLatin1Char('/')) ? spec.section(QLatin1Char('/'), 0, 0) : QString();
-    const QString name = spec.contains(QLatin1Char('/')) ? spec.section(QLatin1Char('/'), 1) : spec;
+    const QString camera = choice.contains(QLatin1Char('/')) ? choice.section(QLatin1Char('/'), 0, 0) : QString();
+    const QString name = choice.contains(QLatin1Char('/')) ? choice.section(QLatin1Char('/'), 1) : choice;
     // The unfiltered list: a trigger stays reachable while the page shows a search result.
     auto* model = m_plugin ? qobject_cast<QAbstractItemModel*>(invokeForObject(m_plugin, "getAlarmModel")) : nullptr;
     if (!model)

@@ -62,7 +62,7 @@ public:
     QAbstractItemModel* viewCellTriggerModel(const QString& cameraId) const;
 
     // Finds a virtual trigger by "name" or "camera/name" among the rules of the plug-in's alarm list.
-    bool findVirtualTrigger(const QString& spec, VirtualTrigger* trigger) const;
+    bool findVirtualTrigger(const QString& choice, VirtualTrigger* trigger) const;
     // Presses the trigger's button: the plug-in's sendVirtualTriggerAlarm. False when it was not sent.
     bool fireVirtualTrigger(const VirtualTrigger& trigger);
 

@@ -141,21 +141,21 @@ void GuiRunner::reconnect()
 void GuiRunner::listArrived()
 {
     // Triggers asked for on the command line are pressed once the rules are known.
-    for (const QString& spec : std::as_const(m_settings.fires)) {
+    for (const QString& choice : std::as_const(m_settings.fires)) {
         AlarmHost::VirtualTrigger trigger;
-        if (m_host->findVirtualTrigger(spec, &trigger) && m_host->fireVirtualTrigger(trigger))
+        if (m_host->findVirtualTrigger(choice, &trigger) && m_host->fireVirtualTrigger(trigger))
             m_awaitedSignals.append(QStringLiteral("alarmTriggered"));
         else
-            QTextStream(stderr) << "Cannot fire " << spec << '\n';
+            QTextStream(stderr) << "Cannot fire " << choice << '\n';
     }
     QObject* window = m_engine->rootObjects().value(0);
-    for (const QString& spec : std::as_const(m_settings.pageActions)) {
-        const QString action = spec.section(QLatin1Char(':'), 0, 0);
+    for (const QString& choice : std::as_const(m_settings.pageActions)) {
+        const QString action = choice.section(QLatin1Char(':'), 0, 0);
         QVariant isDone;
         QMetaObject::invokeMethod(window, "performAction", Q_RETURN_ARG(QVariant, isDone), Q_ARG(QVariant, action),
-                                  Q_ARG(QVariant, spec.section(QLatin1Char(':'), 1)));
+                                  Q_ARG(QVariant, choice.section(QLatin1Char(':'), 1)));
         if (!isDone.toBool()) {
-            QTextStream(stderr) << "Cannot " << spec << '\n';
+            QTextStream(stderr) << "Cannot " << choice << '\n';
             continue;
         }
         m_awaitedSignals.append(action == QLatin1String("duplicate") ? QStringLiteral("addAlarmResp")

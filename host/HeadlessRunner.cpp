@@ -153,14 +153,14 @@ int HeadlessRunner::run()
         steps.append(addAlarm(json));
     for (const QString& json : std::as_const(m_script.edits))
         steps.append(editAlarm(json));
-    for (const QString& spec : std::as_const(m_script.toggles))
-        steps.append(toggleAlarm(spec));
+    for (const QString& choice : std::as_const(m_script.toggles))
+        steps.append(toggleAlarm(choice));
     for (const QString& id : std::as_const(m_script.deletions))
         steps.append(deleteAlarm(id));
-    for (const QString& spec : std::as_const(m_script.scheduleUpdates))
-        steps.append(updateSchedule(spec));
-    for (const QString& spec : std::as_const(m_script.fires))
-        steps.append(fire(spec));
+    for (const QString& choice : std::as_const(m_script.scheduleUpdates))
+        steps.append(updateSchedule(choice));
+    for (const QString& choice : std::as_const(m_script.fires))
+        steps.append(fire(choice));
     settle();
 
     if (!m_script.filter.isEmpty())
@@ -312,11 +312,11 @@ HeadlessRunner::Step HeadlessRunner::editAlarm(const QString& json)
     return step;
 }
 
-HeadlessRunner::Step HeadlessRunner::toggleAlarm(const QString& spec)
+HeadlessRunner::Step HeadlessRunner::toggleAlarm(const QString& choice)
 {
-    const QString id = spec.section(QLatin1Char(':'), 0, 0);
-    const bool isEnabled = spec.section(QLatin1Char(':'), 1) != QLatin1String("off");
-    Step step{QStringLiteral("toggle"), spec, false, {}};
+    const QString id = choice.section(QLatin1Char(':'), 0, 0);
+    const bool isEnabled = choice.section(QLatin1Char(':'), 1) != QLatin1String("off");
+    Step step{QStringLiteral("toggle"), choice, false, {}};
     const QVariantList configuration{QVariantMap{{QStringLiteral("id"), id}, {QStringLiteral("enable"), isEnabled}}};
     bool isSent = false;
     QMetaObject::invokeMethod(m_host->plugin(), "toggleAlarm", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
@@ -350,12 +350,12 @@ HeadlessRunner::Step HeadlessRunner::deleteAlarm(const QString& id)
     return step;
 }
 
-HeadlessRunner::Step HeadlessRunner::updateSchedule(const QString& spec)
+HeadlessRunner::Step HeadlessRunner::updateSchedule(const QString& choice)
 {
     // Every rule on the old template moves to the new one, as the schedule editor saves a template.
-    Step step{QStringLiteral("schedule"), spec, false, {}};
-    const QString oldName = spec.section(QLatin1Char(':'), 0, 0);
-    const QString newName = spec.section(QLatin1Char(':'), 1);
+    Step step{QStringLiteral("schedule"), choice, false, {}};
+    const QString oldName = choice.section(QLatin1Char(':'), 0, 0);
+    const QString newName = choice.section(QLatin1Char(':'), 1);
     bool isSent = false;
     QMetaObject::invokeMethod(m_host->plugin(), "updateAlarmSchedule", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
                               Q_ARG(QString, oldName), Q_ARG(QString, newName),
@@ -369,12 +369,12 @@ HeadlessRunner::Step HeadlessRunner::updateSchedule(const QString& spec)
     return step;
 }
 
-HeadlessRunner::Step HeadlessRunner::fire(const QString& spec)
+HeadlessRunner::Step HeadlessRunner::fire(const QString& choice)
 {
-    Step step{QStringLiteral("fire"), spec, false, {}};
+    Step step{QStringLiteral("fire"), choice, false, {}};
     AlarmHost::VirtualTrigger trigger;
-    if (!m_host->findVirtualTrigger(spec, &trigger)) {
-        step.details.insert(QStringLiteral("error"), QStringLiteral("no rule holds the virtual trigger %1").arg(spec));
+    if (!m_host->findVirtualTrigger(choice, &trigger)) {
+        step.details.insert(QStringLiteral("error"), QStringLiteral("no rule holds the virtual trigger %1").arg(choice));
         return step;
     }
     const qsizetype firstSignal = m_signals.size();
@@ -399,10 +399,10 @@ HeadlessRunner::Step HeadlessRunner::fire(const QString& spec)
     return step;
 }
 
-bool HeadlessRunner::applySort(const QString& spec, QString* errorText)
+bool HeadlessRunner::applySort(const QString& choice, QString* errorText)
 {
-    const QByteArray roleName = spec.section(QLatin1Char(':'), 0, 0).toUtf8();
-    const bool isDescending = spec.section(QLatin1Char(':'), 1) == QLatin1String("desc");
+    const QByteArray roleName = choice.section(QLatin1Char(':'), 0, 0).toUtf8();
+    const bool isDescending = choice.section(QLatin1Char(':'), 1) == QLatin1String("desc");
     const int role = m_model->roleNames().key(roleName, -1);
     if (role < 0) {
         QStringList known;

@@ -54,11 +54,11 @@ private:
     void settle();
     Step addAlarm(const QString& json);
     Step editAlarm(const QString& json);
-    Step toggleAlarm(const QString& spec);
+    Step toggleAlarm(const QString& choice);
     Step deleteAlarm(const QString& id);
-    Step updateSchedule(const QString& spec);
-    Step fire(const QString& spec);
-    bool applySort(const QString& spec, QString* errorText);
+    Step updateSchedule(const QString& choice);
+    Step fire(const QString& choice);
+    bool applySort(const QString& choice, QString* errorText);
 
     int rowOfId(const QString& id) const;
     QVariant rowValue(int row, const char* roleName) const;
