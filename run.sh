@@ -10,7 +10,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(cmake ninja-build g++ pkg-config
-          qt6-base-dev libpugixml-dev libbenchmark-dev
+          qt6-base-dev qt6-tools-dev qt6-l10n-tools libpugixml-dev libbenchmark-dev
           qt6-declarative-dev qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
           qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtqml-workerscript
           qt6-qpa-plugins fonts-dejavu-core)

@@ -9,6 +9,27 @@
 class PluginAlarmManager;
 class QStandardItem;
 
+// Keys of one trigger map, as the display proxy and QML read them.
+namespace AlarmMessageParserCommon {
+const QString TRIGGER_DEV_REALNAME = QStringLiteral("devRealName");
+const QString TRIGGER_DEV_NAME = QStringLiteral("devName");
+const QString TRIGGER_TYPE = QStringLiteral("trigger");
+const QString TRIGGER_LATENCY = QStringLiteral("latency");
+const QString TRIGGER_INDEX = QStringLiteral("index");
+const QString TRIGGER_VALUE = QStringLiteral("value");
+const QString TRIGGER_DIO_TYPE = QStringLiteral("typeDIO");
+const QString TRIGGER_IO_INDEX = QStringLiteral("ioIndex");
+const QString TRIGGER_REMAINING_PEOPLE = QStringLiteral("remainingPeople");
+const QString TRIGGER_COMPARISON = QStringLiteral("comparison");
+const QString TRIGGER_MATCHING_TYPE = QStringLiteral("matchingType");
+const QString TRIGGER_CASE_INSENSITIVE = QStringLiteral("caseInsensitive");
+const QString TRIGGER_CONDITION_LIST = QStringLiteral("conditionListString");
+const QString TRIGGER_ICON_TYPE = QStringLiteral("iconType");
+
+// Values of TRIGGER_DIO_TYPE: whether a digital I/O trigger watches an input or an output.
+enum TriggerDioType { TRIGGER_DIO_TYPE_DI = 0, TRIGGER_DIO_TYPE_DO = 1 };
+} // namespace AlarmMessageParserCommon
+
 // The codec between the server's alarm documents and the rows of AlarmModel. createAlarmItemList calls
 // the three parse operations through this interface, so a derived parser may replace any of them.
 class IAlarmMessageParser
@@ -43,6 +64,23 @@ public:
 
     static QString GetDomNodeXmlString(const QDomNode& node);
 
+    // The XML texts of one rule: its TriggerList and ActionList as GetDomNodeXmlString writes them.
+    struct RuleXmlTexts
+    {
+        QString triggerXml;
+        QString actionXml;
+        bool operator==(const RuleXmlTexts& other) const
+        {
+            return triggerXml == other.triggerXml && actionXml == other.actionXml;
+        }
+    };
+    // One entry per "Tmcard" element of the text, in the order of QDomDocument::elementsByTagName, with
+    // exactly the texts the DOM would give (also for a text that breaks off: the DOM keeps what it read).
+    // A single streaming pass replaces the DOM of the whole list, which cost more than everything else.
+    static QList<RuleXmlTexts> RuleXmlTextsOf(const QString& alarmListXml);
+    // The same through QDomDocument; the reference the streaming pass is held to, and its fallback.
+    static QList<RuleXmlTexts> RuleXmlTextsThroughDom(const QString& alarmListXml);
+
     // Schedule codec.
     QString ComposeJsonTimeframeMsg(const QList<QVariant>& frames);
     QString TransformDayIntervalIntoJsonFormat(const QList<QVariant>& days, const QMap<QString, QVariant>& interval);
@@ -65,5 +103,11 @@ public:
     QVariantMap BuildVirtualTriggerMap(const QMap<QString, QVariant>& trigger) const;
 
 private:
+    QString displayNameOf(const QString& deviceId) const;
+    QVariantMap cameraTriggerMap(const QVariantMap& trigger, QString& reportedType);
+    QVariantMap statusTriggerMap(const QVariantMap& trigger, const QString& eventType);
+    QVariantMap externalTriggerMap(const QVariantMap& trigger, const QString& eventType);
+
+    // May be null (tests, tools): display names are then empty.
     PluginAlarmManager* m_owner = nullptr;
 };

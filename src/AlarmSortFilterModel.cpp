@@ -1,5 +1,116 @@
-// Placeholder bodies until the real implementation lands.
 #include "AlarmSortFilterModel.h"
+
+#include <algorithm>
+
+#include "AlarmModel.h"
+
+namespace {
+
+const QString KEY_DEV_NAME = QStringLiteral("devName");
+const QString KEY_DISPLAY_VALUE = QStringLiteral("displayValue");
+const QString KEY_TARGET = QStringLiteral("target");
+const QString KEY_ACTION = QStringLiteral("action");
+
+// Stands between the texts of one row in its search text; a keyword holding it is matched text by text.
+constexpr QChar SEARCH_SEPARATOR = QChar(0x1F);
+
+// Lists as the display proxy gives them; a text, which QVariant would split into characters, is no list.
+QVariantList listOf(const QVariant& value)
+{
+    const int type = value.typeId();
+    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
+}
+
+// The texts a keyword is looked for in, per display shape.
+QStringList triggerSourceTexts(const QVariantList& list)
+{
+    QStringList texts;
+    for (const QVariant& element : list) {
+        const QVariantMap source = element.toMap();
+        texts << source.value(KEY_DEV_NAME).toString() << source.value(KEY_DISPLAY_VALUE).toString();
+    }
+    return texts;
+}
+
+QStringList elementTexts(const QVariantList& list)
+{
+    QStringList texts;
+    texts.reserve(list.size());
+    for (const QVariant& element : list)
+        texts << element.toString();
+    return texts;
+}
+
+QStringList actionTargetTexts(const QVariantList& list)
+{
+    QStringList texts;
+    for (const QVariant& element : list) {
+        const QVariantList targets = listOf(element);
+        for (const QVariant& targetElement : targets) {
+            const QVariantMap target = targetElement.toMap();
+            texts << target.value(KEY_TARGET).toString() << target.value(KEY_ACTION).toString();
+        }
+    }
+    return texts;
+}
+
+bool anyContains(const QStringList& texts, const QString& keyword)
+{
+    return std::any_of(texts.cbegin(), texts.cend(),
+                       [&keyword](const QString& text) { return text.contains(keyword, Qt::CaseInsensitive); });
+}
+
+// Sort keys: the texts a row is ordered by, compared position by position.
+QStringList triggerSourceKey(const QVariantList& list)
+{
+    // Only the first source names the rule's origin in the list; the rest do not take part.
+    if (list.isEmpty())
+        return {};
+    return {list.constFirst().toMap().value(KEY_DEV_NAME).toString()};
+}
+
+QStringList actionTargetKey(const QVariantList& list)
+{
+    QStringList key;
+    key.reserve(list.size());
+    for (const QVariant& element : list) {
+        const QVariantList targets = listOf(element);
+        key << (targets.isEmpty() ? QString() : targets.constFirst().toMap().value(KEY_TARGET).toString());
+    }
+    return key;
+}
+
+QStringList scheduleKey(const QVariant& value)
+{
+    const QVariantList schedule = listOf(value);
+    if (schedule.isEmpty())
+        return {};
+    return {schedule.constFirst().toString()};
+}
+
+// The first differing text decides, by character code; a key that is a prefix of the other sorts first, so
+// an empty list sorts before any other.
+bool keyLess(const QStringList& a, const QStringList& b)
+{
+    const qsizetype common = std::min(a.size(), b.size());
+    for (qsizetype i = 0; i < common; ++i) {
+        const int order = a.at(i).compare(b.at(i), Qt::CaseSensitive);
+        if (order != 0)
+            return order < 0;
+    }
+    return a.size() < b.size();
+}
+
+// A rule without a schedule is never less, and against one it counts as a schedule named "", which no
+// name sorts before.
+bool scheduleKeyLess(const QStringList& a, const QStringList& b)
+{
+    if (a.isEmpty())
+        return false;
+    return a.constFirst() < (b.isEmpty() ? QString() : b.constFirst());
+}
+
+} // namespace
 
 AlarmSortFilterModel::AlarmSortFilterModel(QObject* parent)
     : QSortFilterProxyModel(parent)
@@ -8,46 +119,181 @@ AlarmSortFilterModel::AlarmSortFilterModel(QObject* parent)
 
 AlarmSortFilterModel::~AlarmSortFilterModel() = default;
 
-void AlarmSortFilterModel::applyFilter(const QString&) {}
-
-void AlarmSortFilterModel::sortByRole(int, Qt::SortOrder) {}
-
-bool AlarmSortFilterModel::triggerSourceListMatches(const QVariantList&, const QString&) const
+void AlarmSortFilterModel::setSourceModel(QAbstractItemModel* newSourceModel)
 {
-    return {};
+    for (const QMetaObject::Connection& connection : std::as_const(m_sourceConnections))
+        disconnect(connection);
+    m_sourceConnections.clear();
+    m_rows.clear();
+
+    // Connected before the base class connects its own handling, so that the kept texts and keys are right
+    // by the time it filters and sorts the changed rows.
+    if (newSourceModel) {
+        m_sourceConnections = {
+            connect(newSourceModel, &QAbstractItemModel::dataChanged, this, &AlarmSortFilterModel::forgetChangedRows),
+            connect(newSourceModel, &QAbstractItemModel::rowsInserted, this, &AlarmSortFilterModel::makeRoomForRows),
+            connect(newSourceModel, &QAbstractItemModel::rowsRemoved, this, &AlarmSortFilterModel::dropRows),
+            connect(newSourceModel, &QAbstractItemModel::rowsMoved, this, &AlarmSortFilterModel::forgetAll),
+            connect(newSourceModel, &QAbstractItemModel::layoutChanged, this, &AlarmSortFilterModel::forgetAll),
+            connect(newSourceModel, &QAbstractItemModel::modelAboutToBeReset, this, &AlarmSortFilterModel::forgetAll),
+            connect(newSourceModel, &QAbstractItemModel::modelReset, this, &AlarmSortFilterModel::forgetAll),
+        };
+    }
+    QSortFilterProxyModel::setSourceModel(newSourceModel);
 }
 
-bool AlarmSortFilterModel::actionTypeListMatches(const QVariantList&, const QString&) const
+void AlarmSortFilterModel::applyFilter(const QString& filterString)
 {
-    return {};
+    // Split at every single blank, empty parts kept: an empty keyword matches every row.
+    m_keywords = filterString.split(QLatin1Char(' '), Qt::KeepEmptyParts);
+    m_foldedKeywords.clear();
+    m_keywordsHoldSeparator = false;
+    for (const QString& keyword : std::as_const(m_keywords)) {
+        m_foldedKeywords << keyword.toCaseFolded();
+        m_keywordsHoldSeparator = m_keywordsHoldSeparator || keyword.contains(SEARCH_SEPARATOR);
+    }
+    invalidateFilter();
+    sort(0, sortOrder());
 }
 
-bool AlarmSortFilterModel::actionTargetListMatches(const QVariantList&, const QString&) const
+void AlarmSortFilterModel::sortByRole(int role, Qt::SortOrder order)
 {
-    return {};
+    setSortRole(role);
+    sort(0, order);
 }
 
-bool AlarmSortFilterModel::triggerSourceLessThan(const QVariantList&, const QVariantList&) const
+bool AlarmSortFilterModel::triggerSourceListMatches(const QVariantList& list, const QString& keyword) const
 {
-    return {};
+    return anyContains(triggerSourceTexts(list), keyword);
 }
 
-bool AlarmSortFilterModel::actionTypeLessThan(const QVariantList&, const QVariantList&) const
+bool AlarmSortFilterModel::actionTypeListMatches(const QVariantList& list, const QString& keyword) const
 {
-    return {};
+    return anyContains(elementTexts(list), keyword);
 }
 
-bool AlarmSortFilterModel::actionTargetLessThan(const QVariantList&, const QVariantList&) const
+bool AlarmSortFilterModel::actionTargetListMatches(const QVariantList& list, const QString& keyword) const
 {
-    return {};
+    return anyContains(actionTargetTexts(list), keyword);
 }
 
-bool AlarmSortFilterModel::filterAcceptsRow(int, const QModelIndex&) const
+bool AlarmSortFilterModel::triggerSourceLessThan(const QVariantList& a, const QVariantList& b) const
 {
-    return {};
+    return keyLess(triggerSourceKey(a), triggerSourceKey(b));
 }
 
-bool AlarmSortFilterModel::lessThan(const QModelIndex&, const QModelIndex&) const
+bool AlarmSortFilterModel::actionTypeLessThan(const QVariantList& a, const QVariantList& b) const
 {
-    return {};
+    return keyLess(elementTexts(a), elementTexts(b));
+}
+
+bool AlarmSortFilterModel::actionTargetLessThan(const QVariantList& a, const QVariantList& b) const
+{
+    return keyLess(actionTargetKey(a), actionTargetKey(b));
+}
+
+QStringList AlarmSortFilterModel::rowTexts(const QModelIndex& row) const
+{
+    // In the order a keyword is tried: name, trigger sources, trigger type, action types, action targets,
+    // schedule. The schedule is a list of strings, like the action types.
+    return QStringList{row.data(AlarmModel::nameRole).toString()}
+           + triggerSourceTexts(listOf(row.data(AlarmModel::triggerSourceRole)))
+           + QStringList{row.data(AlarmModel::triggerTypeRole).toString()}
+           + elementTexts(listOf(row.data(AlarmModel::actionTypeRole)))
+           + actionTargetTexts(listOf(row.data(AlarmModel::actionTargetRole)))
+           + elementTexts(listOf(row.data(AlarmModel::scheduleRole)));
+}
+
+QStringList AlarmSortFilterModel::sortKey(const QModelIndex& row, int role) const
+{
+    const QVariant value = row.data(role);
+    switch (role) {
+    case AlarmModel::triggerSourceRole: return triggerSourceKey(listOf(value));
+    case AlarmModel::actionTypeRole: return elementTexts(listOf(value));
+    case AlarmModel::actionTargetRole: return actionTargetKey(listOf(value));
+    case AlarmModel::scheduleRole: return scheduleKey(value);
+    default: return {value.toString()};
+    }
+}
+
+AlarmSortFilterModel::RowCache* AlarmSortFilterModel::cacheOf(const QModelIndex& sourceRow,
+                                                            const QModelIndex& sourceParent) const
+{
+    // The alarm list is flat; rows of any deeper level are worked out on each call.
+    if (!sourceRow.isValid() || sourceParent.isValid() || !sourceModel())
+        return nullptr;
+    const size_t row = static_cast<size_t>(sourceRow.row());
+    if (row >= m_rows.size())
+        m_rows.resize(static_cast<size_t>(sourceModel()->rowCount()));
+    return row < m_rows.size() ? &m_rows[row] : nullptr;
+}
+
+bool AlarmSortFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
+{
+    if (m_keywords.isEmpty() || !sourceModel())
+        return true;
+    const QModelIndex row = sourceModel()->index(sourceRow, 0, sourceParent);
+
+    RowCache* cache = cacheOf(row, sourceParent);
+    if (!cache || m_keywordsHoldSeparator) {
+        const QStringList texts = rowTexts(row);
+        return std::all_of(m_keywords.cbegin(), m_keywords.cend(),
+                           [&texts](const QString& keyword) { return anyContains(texts, keyword); });
+    }
+    if (cache->searchText.isEmpty())
+        cache->searchText = rowTexts(row).join(SEARCH_SEPARATOR).toCaseFolded();
+    // Folded on both sides, a plain search ignores case as a case-insensitive one would.
+    const QString& searchText = cache->searchText;
+    return std::all_of(m_foldedKeywords.cbegin(), m_foldedKeywords.cend(),
+                       [&searchText](const QString& keyword) { return searchText.contains(keyword); });
+}
+
+bool AlarmSortFilterModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
+{
+    const int role = sortRole();
+    // Both rows of one comparison share their parent.
+    const QModelIndex parent = left.parent();
+    const auto keyOf = [this, role, &parent](const QModelIndex& row) {
+        RowCache* cache = cacheOf(row, parent);
+        if (!cache)
+            return sortKey(row, role);
+        if (cache->sortKeyRole != role) {
+            cache->sortKey = sortKey(row, role);
+            cache->sortKeyRole = role;
+        }
+        return cache->sortKey;
+    };
+    const QStringList leftKey = keyOf(left);
+    const QStringList rightKey = keyOf(right);
+    return role == AlarmModel::scheduleRole ? scheduleKeyLess(leftKey, rightKey) : keyLess(leftKey, rightKey);
+}
+
+void AlarmSortFilterModel::forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight)
+{
+    if (!topLeft.isValid() || !bottomRight.isValid() || topLeft.parent().isValid())
+        return;
+    const size_t end = std::min(m_rows.size(), static_cast<size_t>(bottomRight.row()) + 1);
+    for (size_t row = static_cast<size_t>(topLeft.row()); row < end; ++row)
+        m_rows[row] = RowCache();
+}
+
+void AlarmSortFilterModel::makeRoomForRows(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid() || first < 0 || last < first || static_cast<size_t>(first) > m_rows.size())
+        return;
+    m_rows.insert(m_rows.begin() + first, static_cast<size_t>(last - first + 1), RowCache());
+}
+
+void AlarmSortFilterModel::dropRows(const QModelIndex& parent, int first, int last)
+{
+    if (parent.isValid() || first < 0 || last < first)
+        return;
+    const size_t begin = std::min(m_rows.size(), static_cast<size_t>(first));
+    const size_t end = std::min(m_rows.size(), static_cast<size_t>(last) + 1);
+    m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(begin), m_rows.begin() + static_cast<std::ptrdiff_t>(end));
+}
+
+void AlarmSortFilterModel::forgetAll()
+{
+    m_rows.clear();
 }

@@ -1,11 +1,17 @@
 #pragma once
 
+#include <QList>
+#include <QMetaObject>
 #include <QSortFilterProxyModel>
 #include <QStringList>
 #include <QVariantList>
 
+#include <vector>
+
 // The alarm list as QML shows it: a free-text AND filter over the display texts and sorting by any
 // role. Its source must be AlarmTranslatedModel, since it reads the display shapes, not raw values.
+// Per row it keeps the texts it searches and the key it sorts by, so that a keystroke or a click on a
+// column header costs one string search or one key comparison per row; both follow every change of the rows.
 class AlarmSortFilterModel : public QSortFilterProxyModel
 {
     Q_OBJECT
@@ -15,6 +21,8 @@ public:
 
     Q_INVOKABLE void applyFilter(const QString& filterString);
     Q_INVOKABLE void sortByRole(int role, Qt::SortOrder order);
+
+    void setSourceModel(QAbstractItemModel* sourceModel) override;
 
     bool triggerSourceListMatches(const QVariantList& list, const QString& keyword) const;
     bool actionTypeListMatches(const QVariantList& list, const QString& keyword) const;
@@ -28,5 +36,25 @@ protected:
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
 private:
+    struct RowCache
+    {
+        QString searchText; // every searched text, case-folded, one separator between them; empty: not built
+        QStringList sortKey;
+        int sortKeyRole = -1; // the role sortKey was built for; -1: not built
+    };
+
+    QStringList rowTexts(const QModelIndex& row) const;
+    QStringList sortKey(const QModelIndex& row, int role) const;
+    RowCache* cacheOf(const QModelIndex& sourceRow, const QModelIndex& sourceParent) const;
+
+    void forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight);
+    void makeRoomForRows(const QModelIndex& parent, int first, int last);
+    void dropRows(const QModelIndex& parent, int first, int last);
+    void forgetAll();
+
     QStringList m_keywords;
+    QStringList m_foldedKeywords;
+    bool m_keywordsHoldSeparator = false;
+    mutable std::vector<RowCache> m_rows;
+    QList<QMetaObject::Connection> m_sourceConnections;
 };

@@ -28,7 +28,7 @@ bool AudioFileManager::save(const QString& name, const QByteArray& data)
 {
     // The core filters names before it calls this; the path is joined as text on purpose.
     QFile file(m_directoryPath + QLatin1Char('/') + name);
-    // No truncation: a shorter sound saved over a longer one keeps the old tail, as the server's copies do.
+    // Deliberately not truncated, and kept so: a shorter sound saved over a longer one keeps the old tail.
     if (!file.open(QIODevice::ReadWrite))
         return false;
     return file.write(data) != -1;
@@ -36,5 +36,7 @@ bool AudioFileManager::save(const QString& name, const QByteArray& data)
 
 QStringList AudioFileManager::getFileList()
 {
+    if (m_directoryPath.isEmpty())
+        return {};
     return QDir(m_directoryPath).entryList({SOUND_FILE_PATTERN}, QDir::Files, QDir::NoSort);
 }
