@@ -393,6 +393,8 @@ HeadlessRunner::Step HeadlessRunner::fire(const QString& choice)
     step.details.insert(QStringLiteral("camera"), trigger.cameraId);
     step.details.insert(QStringLiteral("signals"), followed);
     if (!m_isPrintingLive && !m_script.isJson) {
+        out() << "Fired \"" << trigger.name << "\" on " << m_host->site()->cameraName(trigger.cameraId) << " ("
+              << trigger.cameraId << "); the plug-in's signals:\n";
         for (qsizetype i = firstSignal; i < m_signals.size(); ++i)
             printSignal(m_signals.at(i).first, m_signals.at(i).second);
     }
