@@ -1,4 +1,4 @@
-# The reference host's tests. The server test compiles the server's sources itself, so it also runs in
+# The reference host's tests. The server and site tests compile the host's sources they cover, so they run in
 # builds without the host (the sanitizer build); the end-to-end tests run the built alarm-host and skip
 # when there is none.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Network)
@@ -10,6 +10,14 @@ if(TARGET tst_alarmhostserver)
     target_link_libraries(tst_alarmhostserver PRIVATE Qt6::Network Qt6::Xml)
     target_compile_definitions(tst_alarmhostserver PRIVATE
         ALARM_SAMPLE_SITE_DIR="${PROJECT_SOURCE_DIR}/samples/site")
+endif()
+
+if(TARGET tst_alarmhostsite)
+    target_sources(tst_alarmhostsite PRIVATE
+        ${PROJECT_SOURCE_DIR}/host/Site.cpp ${PROJECT_SOURCE_DIR}/host/Site.h
+        ${PROJECT_SOURCE_DIR}/host/PeerPlugins.cpp ${PROJECT_SOURCE_DIR}/host/PeerPlugins.h)
+    target_include_directories(tst_alarmhostsite PRIVATE ${PROJECT_SOURCE_DIR}/host)
+    target_compile_definitions(tst_alarmhostsite PRIVATE ALARM_SAMPLE_SITE_DIR="${PROJECT_SOURCE_DIR}/samples/site")
 endif()
 
 foreach(host_test tst_alarmhost tst_alarmhostpage)
