@@ -31,7 +31,7 @@ public:
         QString cameraId;
         QStringList fires;
         int editorRow = -1;
-        QStringList pageActions; // "disable:1001", "delete:1002", "duplicate:1003" 
+        QStringList pageActions; // "disable:1001", "delete:1002", "duplicate:1003"
         int timeoutMs = 10000;
     };
 
