@@ -32,7 +32,9 @@ class PluginAlarmManager : public PluginBase
     Q_INTERFACES(PluginBase)
 
 public:
-    enum ClientNotificationType {
+    // Fixed underlying type: the notification parser also yields 2 (sound the alarm), which QML receives
+    // as a plain number although the enumeration names only the first two kinds.
+    enum ClientNotificationType : int {
         GoToEMap = 0,
         PopupWindow = 1,
     };
@@ -170,6 +172,29 @@ public:
 
 private:
     static bool isSuccess(const QString& returnCode);
+
+    // Argument map shared by "AddAlarm" and "UpdateAlarm"; name and description are percent-encoded.
+    static QVariantMap alarmArguments(const QString& name, const QString& description,
+                                      const QString& triggerXmlData, const QString& actionXmlData,
+                                      const QString& relatedDevicesXmlData, const QString& templateName,
+                                      const QString& templateContent, bool enabled);
+    // Sends one request whose context the requester owns until the send succeeds; frees it otherwise.
+    template <typename Context>
+    bool sendWithContext(const char* requester, const QString& method, const QVariant& argument,
+                         Context* context);
+    QStandardItem* findAlarmItem(const QString& alarmId) const;
+    qlonglong nextRevision(const QString& alarmId) const;
+    bool isGuardianSupported();
+    // The schedule list of a row: [template name, status, rectangle JSON]; the rectangles come from the
+    // template content ("Mapping" XML, or rectangle JSON as it is), the old ones when it has none.
+    QVariantList scheduleList(const QString& templateName, const QString& status, const QString& templateContent,
+                              const QVariantList& oldSchedule);
+    // Writes the rows of one answered edit; the caller has checked that the row exists.
+    void applyAlarmEdit(QStandardItem* item, const QVariantMap& request);
+    AlarmViewCellTriggerModel* viewCellTriggerModel(const QString& cameraId);
+    void insertViewCellTriggers(const QString& alarmId, const QVariantMap& triggerTree);
+    void handleAlarmTriggeredEvent(const QVariant& data);
+    void handleToggleAlarmEvent(const QVariant& data);
 
     QString m_prefixName;
     QString m_pluginId;
