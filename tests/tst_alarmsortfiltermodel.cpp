@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "AlarmModel.h"
+#include "AlarmRows.h"
 #include "AlarmSortFilterModel.h"
 #include "AlarmTranslatedModel.h"
 
@@ -25,41 +26,20 @@ private slots:
     void sortFollowsRowChanges();
 };
 
+using namespace AlarmRows;
+
 namespace {
-
-QVariantMap trigger(const QString& device, const QString& type, const QVariant& index = {}, const QVariant& value = {})
-{
-    QVariantMap map{{"devRealName", device.toLower()}, {"devName", device}, {"trigger", type}, {"latency", 0}};
-    if (index.isValid())
-        map.insert("index", index);
-    if (value.isValid())
-        map.insert("value", value);
-    return map;
-}
-
-QVariantMap target(const QString& target, const QString& action)
-{
-    return {{"target", target}, {"action", action}};
-}
 
 QVariant targets(const QVariantList& list)
 {
     return QVariant(list);
 }
 
-QStandardItem* alarmRow(const QString& name, const QVariantList& sources, const QString& type,
-                        const QVariantList& actionTypes, const QVariantList& actionTargets, const QVariantList& schedule)
+// Typed so that a single-element list never decays into its element.
+QStandardItem* rule(const QString& name, const QVariantList& sources, const QString& type, const QVariantList& actionTypes,
+                    const QVariantList& actionTargets, const QVariantList& schedule)
 {
-    auto* item = new QStandardItem;
-    item->setData(name.toLower(), AlarmModel::idRole);
-    item->setData(name, AlarmModel::nameRole);
-    item->setData(true, AlarmModel::enabledRole);
-    item->setData(sources, AlarmModel::triggerSourceRole);
-    item->setData(type, AlarmModel::triggerTypeRole);
-    item->setData(actionTypes, AlarmModel::actionTypeRole);
-    item->setData(actionTargets, AlarmModel::actionTargetRole);
-    item->setData(schedule, AlarmModel::scheduleRole);
-    return item;
+    return alarmRow(name, sources, type, actionTypes, actionTargets, schedule);
 }
 
 // Four rules whose orders differ for every sort role; raw values as the codecs decode them.
@@ -70,19 +50,19 @@ void addRules(AlarmModel& model)
     const QVariantMap post{{"target", "POST Method"}, {"action", "http://hook"}, {"post", true}};
     const QVariantMap siren{{"target", "IO box"}, {"action", "SetDO"}, {"index", "Siren"}, {"value", "1"},
                             {"ioIndex", 1}, {"camId", "io-1"}, {"period", 0}};
-    model.appendRow(alarmRow("Front door", {trigger("Lobby", "DI", 1, "High")}, "DI", {"SendMail"},
+    model.appendRow(rule("Front door", {trigger("Lobby", "DI", 1, "High")}, "DI", {"SendMail"},
                              {targets({mail})}, {"Office hours", "success", "{}"}));
-    model.appendRow(alarmRow("Back door", {trigger("Yard", "Motion", 2)}, "Motion", {"HTTP", "SetDO"},
+    model.appendRow(rule("Back door", {trigger("Yard", "Motion", 2)}, "Motion", {"HTTP", "SetDO"},
                              {targets({post}), targets({siren})}, {"Night", "success", "{}"}));
-    model.appendRow(alarmRow("alpha", {trigger("Parking", "CamConn", {}, "Lost")}, "CamConn", {"Recording"},
-                             {targets({target("Gate cam", "")})}, {"Weekend", "success", "{}"}));
-    model.appendRow(alarmRow("Zeta", {}, "", {}, {}, {"Always", "success", "{}"}));
+    model.appendRow(rule("alpha", {trigger("Parking", "CamConn", {}, "Lost")}, "CamConn", {"Recording"},
+                             {targets({shown("Gate cam", "")})}, {"Weekend", "success", "{}"}));
+    model.appendRow(rule("Zeta", {}, "", {}, {}, {"Always", "success", "{}"}));
 }
 
 // A fifth rule, for the filter table: a name beyond ASCII and no schedule.
 void addNonAsciiRule(AlarmModel& model)
 {
-    model.appendRow(alarmRow(QStringLiteral("über alles"), {}, "", {}, {}, {}));
+    model.appendRow(rule(QStringLiteral("über alles"), {}, "", {}, {}, {}));
 }
 
 QStringList names(const QAbstractItemModel& model)
@@ -195,8 +175,8 @@ void tst_AlarmSortFilterModel::emptyRightScheduleNamesNothing()
     AlarmSortFilterModel list;
     texts.setSourceModel(&source);
     list.setSourceModel(&texts);
-    source.appendRow(alarmRow("Named", {}, "", {}, {}, {"Night", "success", "{}"}));
-    source.appendRow(alarmRow("Unnamed", {}, "", {}, {}, {}));
+    source.appendRow(rule("Named", {}, "", {}, {}, {"Night", "success", "{}"}));
+    source.appendRow(rule("Unnamed", {}, "", {}, {}, {}));
 
     // When sorted by schedule either way
     // Then neither sorts before the other: an empty list counts as the empty name on the right, and as not
@@ -223,7 +203,7 @@ void tst_AlarmSortFilterModel::listComparisons_data()
     const auto actionTargets = [](const QStringList& firstTargets) {
         QVariantList list;
         for (const QString& first : firstTargets)
-            list.append(targets({target(first, ""), target("zzz", "")}));
+            list.append(targets({shown(first, ""), shown("zzz", "")}));
         return list;
     };
 
@@ -275,7 +255,7 @@ void tst_AlarmSortFilterModel::filterFollowsRowChanges()
     // When a rule is renamed into the filter, another renamed out of it, one added and one removed
     chain.source.item(3)->setData("Side door", AlarmModel::nameRole);
     chain.source.item(0)->setData("Front gate", AlarmModel::nameRole);
-    chain.source.appendRow(alarmRow("Cellar door", {}, "", {}, {}, {}));
+    chain.source.appendRow(rule("Cellar door", {}, "", {}, {}, {}));
     chain.source.removeRow(1);
 
     // Then the list follows each change
@@ -315,7 +295,7 @@ void tst_AlarmSortFilterModel::sortFollowsRowChanges()
 
     // When a rule's first device is renamed, a rule is added and another removed
     chain.source.item(0)->setData(QVariantList{trigger("Zoo", "DI", 1, "High")}, AlarmModel::triggerSourceRole);
-    chain.source.insertRow(0, alarmRow("Attic", {trigger("Attic", "Motion", 1)}, "Motion", {}, {}, {}));
+    chain.source.insertRow(0, rule("Attic", {trigger("Attic", "Motion", 1)}, "Motion", {}, {}, {}));
     chain.source.removeRow(4);
 
     // Then the order follows
