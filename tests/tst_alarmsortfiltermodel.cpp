@@ -36,8 +36,8 @@ QVariant targets(const QVariantList& list)
 }
 
 // Typed so that a single-element list never decays into its element.
-QStandardItem* rule(const QString& name, const QVariantList& sources, const QString& type, const QVariantList& actionTypes,
-                    const QVariantList& actionTargets, const QVariantList& schedule)
+QStandardItem* rule(const QString& name, const QVariantList& sources, const QString& type,
+                    const QVariantList& actionTypes, const QVariantList& actionTargets, const QVariantList& schedule)
 {
     return alarmRow(name, sources, type, actionTypes, actionTargets, schedule);
 }
@@ -45,24 +45,30 @@ QStandardItem* rule(const QString& name, const QVariantList& sources, const QStr
 // Four rules whose orders differ for every sort role; raw values as the codecs decode them.
 void addRules(AlarmModel& model)
 {
-    const QVariantMap mail{{"target", "guard@site"}, {"action", ""}, {"cc", ""}, {"senderName", ""}, {"from", ""},
-                           {"subject", ""}, {"content", ""}, {"snapshotCameraList", QVariantList()}};
+    const QVariantMap mail{{"target", "guard@site"},
+                           {"action", ""},
+                           {"cc", ""},
+                           {"senderName", ""},
+                           {"from", ""},
+                           {"subject", ""},
+                           {"content", ""},
+                           {"snapshotCameraList", QVariantList()}};
     const QVariantMap post{{"target", "POST Method"}, {"action", "http://hook"}, {"post", true}};
     const QVariantMap siren{{"target", "IO box"}, {"action", "SetDO"}, {"index", "Siren"}, {"value", "1"},
-                            {"ioIndex", 1}, {"camId", "io-1"}, {"period", 0}};
-    model.appendRow(rule("Front door", {trigger("Lobby", "DI", 1, "High")}, "DI", {"SendMail"},
-                             {targets({mail})}, {"Office hours", "success", "{}"}));
+                            {"ioIndex", 1},       {"camId", "io-1"},   {"period", 0}};
+    model.appendRow(rule("Front door", {trigger("Lobby", "DI", 1, "High")}, "DI", {"SendMail"}, {targets({mail})},
+                         {"Office hours", "success", "{}"}));
     model.appendRow(rule("Back door", {trigger("Yard", "Motion", 2)}, "Motion", {"HTTP", "SetDO"},
-                             {targets({post}), targets({siren})}, {"Night", "success", "{}"}));
+                         {targets({post}), targets({siren})}, {"Night", "success", "{}"}));
     model.appendRow(rule("alpha", {trigger("Parking", "CamConn", {}, "Lost")}, "CamConn", {"Recording"},
-                             {targets({shown("Gate cam", "")})}, {"Weekend", "success", "{}"}));
+                         {targets({shown("Gate cam", "")})}, {"Weekend", "success", "{}"}));
     model.appendRow(rule("Zeta", {}, "", {}, {}, {"Always", "success", "{}"}));
 }
 
 // A fifth rule, for the filter table: a name beyond ASCII and no schedule.
 void addNonAsciiRule(AlarmModel& model)
 {
-    model.appendRow(rule(QStringLiteral("über alles"), {}, "", {}, {}, {}));
+    model.appendRow(rule("über alles", {}, "", {}, {}, {}));
 }
 
 QStringList names(const QAbstractItemModel& model)
@@ -97,7 +103,7 @@ void tst_AlarmSortFilterModel::filter_data()
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("shown");
 
-    const QStringList all{"Front door", "Back door", "alpha", "Zeta", QStringLiteral("über alles")};
+    const QStringList all{"Front door", "Back door", "alpha", "Zeta", "über alles"};
     QTest::newRow("empty filter shows every rule") << "" << all;
     QTest::newRow("blanks only are empty keywords") << "  " << all;
     QTest::newRow("name") << "door" << QStringList{"Front door", "Back door"};
@@ -114,8 +120,8 @@ void tst_AlarmSortFilterModel::filter_data()
     QTest::newRow("schedule status") << "success" << QStringList{"Front door", "Back door", "alpha", "Zeta"};
     QTest::newRow("nothing matches") << "zzz" << QStringList();
     QTest::newRow("one keyword of two matches nothing") << "door zzz" << QStringList();
-    QTest::newRow("a keyword never spans two texts") << QStringLiteral("door\u001Flobby") << QStringList();
-    QTest::newRow("case folding beyond ascii") << QStringLiteral("ÜBER") << QStringList{"über alles"};
+    QTest::newRow("a keyword never spans two texts") << "door\u001Flobby" << QStringList();
+    QTest::newRow("case folding beyond ascii") << "ÜBER" << QStringList{"über alles"};
 }
 
 void tst_AlarmSortFilterModel::filter()
@@ -136,8 +142,8 @@ void tst_AlarmSortFilterModel::sort_data()
     QTest::addColumn<Qt::SortOrder>("order");
     QTest::addColumn<QStringList>("shown");
 
-    QTest::newRow("name by character code") << int(AlarmModel::nameRole) << Qt::AscendingOrder
-                                            << QStringList{"Back door", "Front door", "Zeta", "alpha"};
+    QTest::newRow("name by character code")
+        << int(AlarmModel::nameRole) << Qt::AscendingOrder << QStringList{"Back door", "Front door", "Zeta", "alpha"};
     QTest::newRow("name descending") << int(AlarmModel::nameRole) << Qt::DescendingOrder
                                      << QStringList{"alpha", "Zeta", "Front door", "Back door"};
     QTest::newRow("first trigger device, none first") << int(AlarmModel::triggerSourceRole) << Qt::AscendingOrder
@@ -207,23 +213,24 @@ void tst_AlarmSortFilterModel::listComparisons_data()
         return list;
     };
 
-    QTest::newRow("sources: none before some") << "sources" << QVariantList() << sources({"A"}) << QList<bool>{true, false};
+    QTest::newRow("sources: none before some")
+        << "sources" << QVariantList() << sources({"A"}) << QList<bool>{true, false};
     QTest::newRow("sources: only the first device counts")
         << "sources" << sources({"Lobby", "A"}) << sources({"Lobby", "Z"}) << QList<bool>{false, false};
-    QTest::newRow("sources: case-sensitive") << "sources" << sources({"Zeta"}) << sources({"alpha"})
-                                             << QList<bool>{true, false};
-    QTest::newRow("types: first difference decides") << "types" << QVariantList{"Email", "Zap"}
-                                                     << QVariantList{"Email", "Bell"} << QList<bool>{false, true};
+    QTest::newRow("sources: case-sensitive")
+        << "sources" << sources({"Zeta"}) << sources({"alpha"}) << QList<bool>{true, false};
+    QTest::newRow("types: first difference decides")
+        << "types" << QVariantList{"Email", "Zap"} << QVariantList{"Email", "Bell"} << QList<bool>{false, true};
     QTest::newRow("types: prefix first") << "types" << QVariantList{"Email"} << QVariantList{"Email", "Bell"}
                                          << QList<bool>{true, false};
     QTest::newRow("types: equal lists") << "types" << QVariantList{"Email"} << QVariantList{"Email"}
                                         << QList<bool>{false, false};
-    QTest::newRow("targets: first target of each action") << "targets" << actionTargets({"Gate", "B"})
-                                                           << actionTargets({"Gate", "A"}) << QList<bool>{false, true};
-    QTest::newRow("targets: prefix first") << "targets" << actionTargets({"Gate"}) << actionTargets({"Gate", "A"})
-                                           << QList<bool>{true, false};
-    QTest::newRow("targets: no actions before some") << "targets" << QVariantList() << actionTargets({"A"})
-                                                     << QList<bool>{true, false};
+    QTest::newRow("targets: first target of each action")
+        << "targets" << actionTargets({"Gate", "B"}) << actionTargets({"Gate", "A"}) << QList<bool>{false, true};
+    QTest::newRow("targets: prefix first")
+        << "targets" << actionTargets({"Gate"}) << actionTargets({"Gate", "A"}) << QList<bool>{true, false};
+    QTest::newRow("targets: no actions before some")
+        << "targets" << QVariantList() << actionTargets({"A"}) << QList<bool>{true, false};
 }
 
 void tst_AlarmSortFilterModel::listComparisons()

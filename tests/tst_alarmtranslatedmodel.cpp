@@ -42,14 +42,14 @@ QVariantMap source(const QString& device, const QString& displayValue)
 
 QVariantMap mailTarget(const QString& to, const QString& cc)
 {
-    return {{"target", to}, {"action", ""}, {"senderName", "NVR"}, {"from", "nvr@site"}, {"cc", cc},
-            {"subject", "Alarm"}, {"content", "Door"}, {"snapshotCameraList", QVariantList()}};
+    return {{"target", to}, {"action", ""},       {"senderName", "NVR"}, {"from", "nvr@site"},
+            {"cc", cc},     {"subject", "Alarm"}, {"content", "Door"},   {"snapshotCameraList", QVariantList()}};
 }
 
 QVariantMap doTarget(const QString& device, const QString& output, const QString& value)
 {
-    return {{"target", device}, {"action", "SetDO"}, {"index", output}, {"value", value}, {"period", 0},
-            {"camId", "io-1"}, {"ioIndex", 1}};
+    return {{"target", device}, {"action", "SetDO"}, {"index", output}, {"value", value},
+            {"period", 0},      {"camId", "io-1"},   {"ioIndex", 1}};
 }
 
 // Every translated role of every row, as one list, to compare a whole model at once.
@@ -76,7 +76,8 @@ struct Chain
     Chain()
     {
         proxy.setSourceModel(&source);
-        source.appendRow(alarmRow("Door", QVariantList{trigger("Lobby", "DI", 1, "High")}, "DI", QVariantList{"SendMail"},
+        source.appendRow(alarmRow("Door", QVariantList{trigger("Lobby", "DI", 1, "High")}, "DI",
+                                  QVariantList{"SendMail"},
                                   QVariantList{QVariant(QVariantList{mailTarget("guard@site", "")})}));
         source.appendRow(alarmRow("Yard", QVariantList{trigger("Yard", "Motion", 2)}, "Motion", QVariantList{"SMS"},
                                   QVariantList{QVariant(QVariantList{shown("0912", "")})}));
@@ -105,7 +106,8 @@ void tst_AlarmTranslatedModel::displayText_data()
 
     // The stored value goes under the role, and the trigger list under its own role.
     const auto type = [](const char* name, const QString& stored, const QVariantList& sources, const QString& text) {
-        QTest::newRow(name) << int(AlarmModel::triggerTypeRole) << QVariant(sources) << QVariant(stored) << QVariant(text);
+        QTest::newRow(name) << int(AlarmModel::triggerTypeRole) << QVariant(sources) << QVariant(stored)
+                            << QVariant(text);
     };
     type("fixed table", "Motion", {trigger("Lobby", "Motion", 1)}, "Motion detection");
     type("access rule shares the data magnet text", "ExtAccessRule", {}, "Data magnet");
@@ -127,7 +129,8 @@ void tst_AlarmTranslatedModel::displayText_data()
     type("g-sensor whatever the value", "Gsensor", {}, "Abnormal G-sensor motion (Mobile NVR)");
 
     const auto sources = [](const char* name, const QVariantList& sources, const QVariantList& shownSources) {
-        QTest::newRow(name) << int(AlarmModel::triggerSourceRole) << QVariant(sources) << QVariant() << QVariant(shownSources);
+        QTest::newRow(name) << int(AlarmModel::triggerSourceRole) << QVariant(sources) << QVariant()
+                            << QVariant(shownSources);
     };
     sources("camera input and output", {trigger("Lobby", "DI", 1, "High"), trigger("Lobby", "DO", 2, "Low")},
             {source("Lobby", "DI-1"), source("Lobby", "DO-2")});
@@ -136,11 +139,14 @@ void tst_AlarmTranslatedModel::displayText_data()
     sources("thermal rule and area", {trigger("Tank", "Thermal", "TemperatureRiseAlarm", 4)},
             {source("Tank", "Temperature rise alarm 4")});
     sources("numbered i/o device output", {ioTrigger("ExtIODevice", 2, 1)}, {source("IO box", "DO-2")});
-    sources("named i/o device input", {ioTrigger("ExtIODevice", "Door contact", 0)}, {source("IO box", "Door contact")});
+    sources("named i/o device input", {ioTrigger("ExtIODevice", "Door contact", 0)},
+            {source("IO box", "Door contact")});
     sources("status in words", {trigger("Lobby", "CamConn", {}, "Lost")}, {source("Lobby", "Camera disconnected")});
-    sources("position triggers in capitals", {trigger("Bus 4", "GPSConn", {}, "0"), trigger("Bus 4", "GPSSpeed", {}, "80")},
+    sources("position triggers in capitals",
+            {trigger("Bus 4", "GPSConn", {}, "0"), trigger("Bus 4", "GPSSpeed", {}, "80")},
             {source("Bus 4", "GPS disconnected"), source("Bus 4", "Speeding")});
-    sources("other kinds join index and value", {trigger("NVR", "Guardian", 3, "Visitors")}, {source("NVR", "3 Visitors")});
+    sources("other kinds join index and value", {trigger("NVR", "Guardian", 3, "Visitors")},
+            {source("NVR", "3 Visitors")});
     sources("only a value", {trigger("NVR", "ExtTCPMessage", {}, "OPEN")}, {source("NVR", "OPEN")});
     sources("neither index nor value", {trigger("Panel", "VirtualTrigger")}, {source("Panel", "")});
 
@@ -160,14 +166,21 @@ void tst_AlarmTranslatedModel::displayText_data()
 
     const int targets = AlarmModel::actionTargetRole;
     const auto one = [](const QVariantMap& target) { return QVariant(QVariantList{target}); };
-    const QVariantMap post{{"target", "POST Method"}, {"action", "http://hook/door"}, {"needAuth", "false"},
-                           {"user", ""}, {"pwd", ""}, {"post", true}, {"contentType", ""}, {"httpContent", ""}};
-    const QVariantMap triggerCamera{{"target", "Ereignisauslösende Kamera"}, {"action", ""}, {"camId", ""},
-                                    {"includeTriggerCam", true}};
+    const QVariantMap post{{"target", "POST Method"},
+                           {"action", "http://hook/door"},
+                           {"needAuth", "false"},
+                           {"user", ""},
+                           {"pwd", ""},
+                           {"post", true},
+                           {"contentType", ""},
+                           {"httpContent", ""}};
+    const QVariantMap triggerCamera{
+        {"target", "Ereignisauslösende Kamera"}, {"action", ""}, {"camId", ""}, {"includeTriggerCam", true}};
     const QVariantMap popupCamera{{"target", "Lobby"}, {"action", ""}, {"camId", "7"}, {"includeTriggerCam", false}};
     const QVariantMap allRoles{{"target", "Alle Rollen"}, {"action", ""}, {"pushAll", true}};
     const QVariantMap audio{{"target", "Hall speaker"}, {"action", "chime.mp3"}, {"fileId", 2}, {"ipAudioId", 5}};
-    actions("mail without copies", targets, {one(mailTarget("a@site;b@site", ""))}, {one(shown("To: a@site;b@site", ""))});
+    actions("mail without copies", targets, {one(mailTarget("a@site;b@site", ""))},
+            {one(shown("To: a@site;b@site", ""))});
     actions("mail with copies", targets, {one(mailTarget("a@site", "boss@site"))},
             {one(shown("To: a@site", "Cc: boss@site"))});
     actions("output values in digits, words and unknown", targets,
@@ -200,17 +213,24 @@ void tst_AlarmTranslatedModel::displayText()
     QAbstractItemModelTester tester(&proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
     proxy.setSourceModel(&model);
     const auto storedFor = [&](int storedRole) { return role == storedRole ? stored : QVariant(); };
-    model.appendRow(alarmRow("Rule", sources, storedFor(AlarmModel::triggerTypeRole), storedFor(AlarmModel::actionTypeRole),
-                             storedFor(AlarmModel::actionTargetRole)));
+    model.appendRow(alarmRow("Rule", sources, storedFor(AlarmModel::triggerTypeRole),
+                             storedFor(AlarmModel::actionTypeRole), storedFor(AlarmModel::actionTargetRole)));
 
     QCOMPARE(proxy.index(0, 0).data(role), text);
 }
 void tst_AlarmTranslatedModel::otherRolesPassThrough()
 {
     Chain chain;
-    const QList<int> rawRoles{Qt::DisplayRole, Qt::EditRole, AlarmModel::idRole, AlarmModel::nameRole,
-                              AlarmModel::enabledRole, AlarmModel::scheduleRole, AlarmModel::revisionRole,
-                              AlarmModel::descriptionRole, AlarmModel::triggerXmlRole, AlarmModel::actionXmlRole};
+    const QList<int> rawRoles{Qt::DisplayRole,
+                              Qt::EditRole,
+                              AlarmModel::idRole,
+                              AlarmModel::nameRole,
+                              AlarmModel::enabledRole,
+                              AlarmModel::scheduleRole,
+                              AlarmModel::revisionRole,
+                              AlarmModel::descriptionRole,
+                              AlarmModel::triggerXmlRole,
+                              AlarmModel::actionXmlRole};
     for (int row = 0; row < chain.source.rowCount(); ++row) {
         QVariantList shownValues;
         QVariantList sourceValues;
@@ -233,8 +253,8 @@ void tst_AlarmTranslatedModel::wrongShapesGiveEmptyTexts_data()
 
     const QVariantList emptyRow{QVariantList(), QString(), QVariantList(), QVariantList()};
     QTest::newRow("nothing stored") << QVariant() << QVariant() << QVariant() << QVariant() << emptyRow;
-    QTest::newRow("texts where lists belong") << QVariant("Lobby") << QVariant() << QVariant("SendMail")
-                                              << QVariant("guard@site") << emptyRow;
+    QTest::newRow("texts where lists belong")
+        << QVariant("Lobby") << QVariant() << QVariant("SendMail") << QVariant("guard@site") << emptyRow;
     QTest::newRow("numbers inside the lists")
         << QVariant(QVariantList{42}) << QVariant(QVariantList{1, 2}) << QVariant(QVariantList{7})
         << QVariant(QVariantList{QVariant(QVariantList{3})})
@@ -289,7 +309,8 @@ void tst_AlarmTranslatedModel::triggerListChangeAlsoChangesTheTypeText()
     QSignalSpy changed(&chain.proxy, &QAbstractItemModel::dataChanged);
 
     // When only its trigger list changes, to a camera that came back
-    chain.source.item(2)->setData(QVariantList{trigger("Gate", "CamConn", {}, "Connected")}, AlarmModel::triggerSourceRole);
+    chain.source.item(2)->setData(QVariantList{trigger("Gate", "CamConn", {}, "Connected")},
+                                  AlarmModel::triggerSourceRole);
 
     // Then views hear that the type text changed too, and read the new one
     QList<int> changedRoles;
