@@ -216,6 +216,8 @@ void tst_AlarmActionParserCodecs::decode_data()
     QTest::newRow("http without post is get")
         << httpXml("<URL>http://h/x</URL>") << true
         << model(ACTION_TYPE_HTTP, {httpTarget(false, "http://h/x", {}, {}, {}, {}, {})});
+    QTest::newRow("http post false is get")
+        << httpXml("<Post>false</Post>") << true << model(ACTION_TYPE_HTTP, {httpTarget(false, {}, {}, {}, {}, {}, {})});
     QTest::newRow("http post in capitals is post")
         << httpXml("<Post>TRUE</Post>") << true << model(ACTION_TYPE_HTTP, {httpTarget(true, {}, {}, {}, {}, {}, {})});
     QTest::newRow("http need-auth kept as written")

@@ -123,7 +123,9 @@ void tst_AlarmTranslatedModel::displayText_data()
          "CamConn");
     type("value of the trigger of that type, not of the last one", "RecStatus",
          {trigger("Lobby", "RecStatus", {}, "Stop"), trigger("Yard", "Motion", 1)}, "Stop recording");
-    type("numeric state value", "VideoLossRestore", {trigger("Lobby", "VideoLossRestore", {}, 1)}, "Video restore");
+    type("numeric state value", "VideoLossRestore", {trigger("Lobby", "VideoLossRestore", {}, 0)}, "Video loss");
+    type("other numeric state value", "VideoLossRestore", {trigger("Lobby", "VideoLossRestore", {}, 1)},
+         "Video restore");
     type("same state word, another type", "SysNetwork", {trigger("NVR", "SysNetwork", {}, "Down")},
          "Network disconnected");
     type("g-sensor whatever the value", "Gsensor", {}, "Abnormal G-sensor motion (Mobile NVR)");
