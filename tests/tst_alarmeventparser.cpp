@@ -226,8 +226,6 @@ void tst_AlarmEventParser::getters_data()
     // Mute.
     QTest::newRow("Mute true") << alarmDocument({}, "<Mute>true</Mute>") << alarmValues({{"11 mute", true}});
     QTest::newRow("Mute True is not muted") << alarmDocument({}, "<Mute>True</Mute>") << alarmValues({});
-    QTest::newRow("Mute TRUE is not muted") << alarmDocument({}, "<Mute>TRUE</Mute>") << alarmValues({});
-    QTest::newRow("Mute yes is not muted") << alarmDocument({}, "<Mute>yes</Mute>") << alarmValues({});
     QTest::newRow("Mute with attribute is not muted")
         << alarmDocument({}, "<Mute by=\"admin\">1</Mute>") << alarmValues({});
 
