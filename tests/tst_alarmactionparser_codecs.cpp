@@ -545,9 +545,8 @@ void tst_AlarmActionParserCodecs::roundTrip()
 void tst_AlarmActionParserCodecs::setDoRoundTripNeedsOutputNumberUnderIndex()
 {
     // Given the outputs of one device, decoded
-    const QVariant action
-        = actionOf(setDoXml(QStringLiteral("<Entry><Name>io7</Name><DO><Idx>2</Idx><Val>1</Val><Period>10</Period></"
-                                           "DO><DO><Idx>1</Idx><Val>0</Val></DO></Entry>")));
+    const QVariant action = actionOf(setDoXml("<Entry><Name>io7</Name><DO><Idx>2</Idx><Val>1</Val><Period>10</Period></DO>"
+                                              "<DO><Idx>1</Idx><Val>0</Val></DO></Entry>"));
     SetDOActionParser parser;
     const QVariantMap decoded = parser.XmlToActionModel(action, &m_manager.plugin);
 

@@ -46,8 +46,8 @@ QString normalisedJson(const char* json)
 
 QString camera(const QString& eventType, const QString& detail, int latency = 10)
 {
-    return QStringLiteral("<CamEventTrigger><CamName>cam1</CamName><EventType>%1</EventType><Rule><Latency>%2</"
-                          "Latency></Rule>%3</CamEventTrigger>")
+    return QStringLiteral(
+               "<CamEventTrigger><CamName>cam1</CamName><EventType>%1</EventType><Rule><Latency>%2</Latency></Rule>%3</CamEventTrigger>")
         .arg(eventType)
         .arg(latency)
         .arg(detail);
@@ -55,8 +55,8 @@ QString camera(const QString& eventType, const QString& detail, int latency = 10
 
 QString status(const QString& eventType, const QString& content, const QString& element = QString())
 {
-    return QStringLiteral("<StatusEventTrigger><EventType>%1</EventType><Rule><Latency>2</Latency></Rule><%2>%3</%2></"
-                          "StatusEventTrigger>")
+    return QStringLiteral(
+               "<StatusEventTrigger><EventType>%1</EventType><Rule><Latency>2</Latency></Rule><%2>%3</%2></StatusEventTrigger>")
         .arg(eventType, element.isEmpty() ? eventType : element, content);
 }
 
@@ -110,8 +110,9 @@ void tst_AlarmMessageParserTriggers::triggers_data()
                R"([{"devName":"Lobby","devRealName":"cam1","index":"LineDetection","latency":10,"trigger":"VCA"}])")
         << "LineDetection";
     QTest::newRow("thermal reports its kind and area")
-        << camera("Thermal", "<Thermal><Type>TemperatureRiseAlarm</Type><TemperatureInfo><AreaId>3</AreaId></"
-                             "TemperatureInfo></Thermal>")
+        << camera(
+               "Thermal",
+               "<Thermal><Type>TemperatureRiseAlarm</Type><TemperatureInfo><AreaId>3</AreaId></TemperatureInfo></Thermal>")
         << normalisedJson(
                R"([{"devName":"Lobby","devRealName":"cam1","index":"TemperatureRiseAlarm","latency":10,"trigger":"Thermal","value":3}])")
         << "TemperatureRiseAlarm";
@@ -155,14 +156,16 @@ void tst_AlarmMessageParserTriggers::triggers_data()
                R"([{"devName":"Main station","devRealName":"st1","latency":2,"trigger":"StorageCapacity","value":"Exhausted"}])")
         << "StorageCapacity";
     QTest::newRow("station input without a stored name is named like DI-2")
-        << status("DIOStatus", "<DeviceName>st1</DeviceName><EventType>DI</EventType><RefName/><Index>2</"
-                               "Index><ioIndex>2</ioIndex><Value>High</Value>")
+        << status(
+               "DIOStatus",
+               "<DeviceName>st1</DeviceName><EventType>DI</EventType><RefName/><Index>2</Index><ioIndex>2</ioIndex><Value>High</Value>")
         << normalisedJson(
                R"([{"devName":"Main station","devRealName":"st1","index":"DI-2","ioIndex":2,"latency":2,"trigger":"DIOStatus","typeDIO":0,"value":"High"}])")
         << "DIOStatus";
     QTest::newRow("station output keeps its stored name")
-        << status("DIOStatus", "<DeviceName>st1</DeviceName><EventType>DO</EventType><RefName>Siren</RefName><Index>1</"
-                               "Index><ioIndex>1</ioIndex><Value>Low</Value>")
+        << status(
+               "DIOStatus",
+               "<DeviceName>st1</DeviceName><EventType>DO</EventType><RefName>Siren</RefName><Index>1</Index><ioIndex>1</ioIndex><Value>Low</Value>")
         << normalisedJson(
                R"([{"devName":"Main station","devRealName":"st1","index":"Siren","ioIndex":1,"latency":2,"trigger":"DIOStatus","typeDIO":1,"value":"Low"}])")
         << "DIOStatus";
@@ -177,50 +180,49 @@ void tst_AlarmMessageParserTriggers::triggers_data()
                R"([{"devName":"Main station","devRealName":"st1","latency":2,"trigger":"CyberAttack","value":""}])")
         << "CyberAttack";
     QTest::newRow("system events are station events")
-        << "<SysEventTrigger><EventType>SysNetwork</EventType><Rule><Latency>1</Latency></"
-           "Rule><SysNetwork><StationAddress>st1</StationAddress><State>Down</State></SysNetwork></SysEventTrigger>"
+        << "<SysEventTrigger><EventType>SysNetwork</EventType><Rule><Latency>1</Latency></Rule><SysNetwork><StationAddress>st1</StationAddress><State>Down</State></SysNetwork></SysEventTrigger>"
         << normalisedJson(
                R"([{"devName":"Main station","devRealName":"st1","latency":1,"trigger":"SysNetwork","value":"Down"}])")
         << "SysNetwork";
     QTest::newRow("remaining people in an area")
-        << QStringLiteral("<SysEventTrigger><EventType>SysVcaAreaReport</EventType><Rule><Latency>2</Latency></"
-                          "Rule><StationAddress>st1</StationAddress>"
-                          "<VcaAreaReport><AreaId>4</AreaId><RemainingPeople>10</"
-                          "RemainingPeople><Comparison>GreaterThan</Comparison></VcaAreaReport></SysEventTrigger>")
+        << QStringLiteral(
+               "<SysEventTrigger><EventType>SysVcaAreaReport</EventType><Rule><Latency>2</Latency></Rule><StationAddress>st1</StationAddress>"
+               "<VcaAreaReport><AreaId>4</AreaId><RemainingPeople>10</RemainingPeople><Comparison>GreaterThan</Comparison></VcaAreaReport></SysEventTrigger>")
         << normalisedJson(
                R"([{"comparison":"GreaterThan","devName":"Main station","devRealName":"st1","index":4,"latency":2,"remainingPeople":"10","trigger":"SysVcaAreaReport"}])")
         << "SysVcaAreaReport";
     QTest::newRow("external input named by the device tree")
-        << external("ExtIODevice", "<DeviceName>io1</DeviceName><EventType>DI</EventType><Rule><Latency>1</Latency></"
-                                   "Rule><Index>2</Index><Value>High</Value>")
+        << external(
+               "ExtIODevice",
+               "<DeviceName>io1</DeviceName><EventType>DI</EventType><Rule><Latency>1</Latency></Rule><Index>2</Index><Value>High</Value>")
         << normalisedJson(
                R"([{"devName":"IO box","devRealName":"io1","index":"Window","ioIndex":2,"latency":1,"trigger":"ExtIODevice","typeDIO":0,"value":"High"}])")
         << "ExtIODevice";
     QTest::newRow("external output beyond the names falls back to DO-n")
-        << external("ExtIODevice", "<DeviceName>io1</DeviceName><EventType>DO</EventType><Rule><Latency>1</Latency></"
-                                   "Rule><Index>3</Index><Value>Low</Value>")
+        << external(
+               "ExtIODevice",
+               "<DeviceName>io1</DeviceName><EventType>DO</EventType><Rule><Latency>1</Latency></Rule><Index>3</Index><Value>Low</Value>")
         << normalisedJson(
                R"([{"devName":"IO box","devRealName":"io1","index":"DO-3","ioIndex":3,"latency":1,"trigger":"ExtIODevice","typeDIO":1,"value":"Low"}])")
         << "ExtIODevice";
     QTest::newRow("TCP message matches the rule text")
-        << external("ExtTCPMessage", "<StationAddress>st1</StationAddress><Rule>DOOR_OPEN<Latency>3</Latency></"
-                                     "Rule><RuleType>Contains</RuleType><CaseInsensitive>true</CaseInsensitive>")
+        << external(
+               "ExtTCPMessage",
+               "<StationAddress>st1</StationAddress><Rule>DOOR_OPEN<Latency>3</Latency></Rule><RuleType>Contains</RuleType><CaseInsensitive>true</CaseInsensitive>")
         << normalisedJson(
                R"([{"caseInsensitive":"true","devName":"Main station","devRealName":"st1","latency":3,"matchingType":"Contains","trigger":"ExtTCPMessage","value":"DOOR_OPEN"}])")
         << "ExtTCPMessage";
     QTest::newRow("data magnet with one condition")
         << external(
                "ExtDataMagnet",
-               "<Rule><Latency>4</Latency></Rule><Category>POS</Category><ConditionList><Condition><FieldName>Amount</"
-               "FieldName><FieldType>Number</FieldType><FieldValue>500</FieldValue></Condition></ConditionList>")
+               "<Rule><Latency>4</Latency></Rule><Category>POS</Category><ConditionList><Condition><FieldName>Amount</FieldName><FieldType>Number</FieldType><FieldValue>500</FieldValue></Condition></ConditionList>")
         << normalisedJson(
                R"([{"conditionListString":"<Condition><FieldName>Amount</FieldName><FieldType>Number</FieldType><FieldValue>500</FieldValue></Condition>","devName":"POS","devRealName":"POS","latency":4,"trigger":"ExtDataMagnet"}])")
         << "ExtDataMagnet";
     QTest::newRow("data magnet conditions joined in order")
-        << external("ExtDataMagnet",
-                    "<Rule><Latency>4</Latency></Rule><Category>POS</Category><ConditionList><Condition><FieldName>A</"
-                    "FieldName><FieldType>T</FieldType><FieldValue>%1</FieldValue></Condition><Condition><FieldName>B</"
-                    "FieldName><FieldType>N</FieldType><FieldValue>2</FieldValue></Condition></ConditionList>")
+        << external(
+               "ExtDataMagnet",
+               "<Rule><Latency>4</Latency></Rule><Category>POS</Category><ConditionList><Condition><FieldName>A</FieldName><FieldType>T</FieldType><FieldValue>%1</FieldValue></Condition><Condition><FieldName>B</FieldName><FieldType>N</FieldType><FieldValue>2</FieldValue></Condition></ConditionList>")
         << normalisedJson(
                R"([{"conditionListString":"<Condition><FieldName>A</FieldName><FieldType>T</FieldType><FieldValue>%1</FieldValue></Condition><Condition><FieldName>B</FieldName><FieldType>N</FieldType><FieldValue>2</FieldValue></Condition>","devName":"POS","devRealName":"POS","latency":4,"trigger":"ExtDataMagnet"}])")
         << "ExtDataMagnet";
