@@ -90,7 +90,7 @@ void tst_AlarmActionParser::transContentAsListWrapsSingleValues()
 {
     QFETCH(QVariant, value);
     QFETCH(QVariantList, list);
-    QCOMPARE(describe(transContentAsList(value)), describe(list));
+    QCOMPARE(TestJson::of(transContentAsList(value)), TestJson::of(list));
 }
 
 void tst_AlarmActionParser::parserByModelType_data()
@@ -257,7 +257,7 @@ void tst_AlarmActionParser::wrongActionShapesReadAsMissing()
     QVERIFY(parser);
 
     const QVariantMap missing = parser->XmlToActionModel(QVariantMap(), &m_manager.plugin);
-    QCOMPARE(describeLines(parser->XmlToActionModel(action, &m_manager.plugin)), describeLines(missing));
+    QCOMPARE(lines(parser->XmlToActionModel(action, &m_manager.plugin)), lines(missing));
 }
 
 void tst_AlarmActionParser::wrongTargetShapesEncodeAsEmpty_data()

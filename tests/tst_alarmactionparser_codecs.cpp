@@ -380,7 +380,7 @@ void tst_AlarmActionParserCodecs::decode()
     const QSharedPointer<IActionParser> parser = ActionParserFactory::GetActionParser(action.toMap());
     QVERIFY(parser);
     const QVariantMap decoded = parser->XmlToActionModel(action, hasManager ? &m_manager.plugin : nullptr);
-    QCOMPARE(describeLines(decoded), describeLines(expected));
+    QCOMPARE(lines(decoded), lines(expected));
 }
 
 void tst_AlarmActionParserCodecs::encode_data()
@@ -539,7 +539,7 @@ void tst_AlarmActionParserCodecs::roundTrip()
     const QVariantMap reread = parser->XmlToActionModel(actionOf(written), &m_manager.plugin);
 
     // Then only the fields the codec writes survive; no expectation means nothing is lost
-    QCOMPARE(describeLines(reread), describeLines(expected.isEmpty() ? decoded : expected));
+    QCOMPARE(lines(reread), lines(expected.isEmpty() ? decoded : expected));
 }
 
 void tst_AlarmActionParserCodecs::setDoRoundTripNeedsOutputNumberUnderIndex()
@@ -562,8 +562,8 @@ void tst_AlarmActionParserCodecs::setDoRoundTripNeedsOutputNumberUnderIndex()
     // Then the outputs come back with their names, only the period is not written
     const QString doorBox = "Door box";
     const QString io7 = "io7";
-    QCOMPARE(describeLines(reread),
-             describeLines(model(ACTION_TYPE_SETDO, {outputTarget(doorBox, "Gate", "1", 0, io7, 2),
+    QCOMPARE(lines(reread),
+             lines(model(ACTION_TYPE_SETDO, {outputTarget(doorBox, "Gate", "1", 0, io7, 2),
                                                      outputTarget(doorBox, "Siren", "0", 0, io7, 1)})));
 }
 
