@@ -2,12 +2,18 @@
 # The project's two entry points on a fresh Debian machine:
 #   ./run.sh test             install what is missing, build, run every test
 #   ./run.sh test --sanitize  the same in a separate AddressSanitizer + UndefinedBehaviorSanitizer build
+#   ./run.sh demo [options]   build the reference host and show the sample site: the QML page when there is
+#                             a display, otherwise the printed alarm list and a fired alarm (options go to
+#                             alarm-host; ./run.sh demo --help lists them)
 #   ./run.sh fuzz [SECONDS]   build the libFuzzer targets with clang and run each for SECONDS (default 45)
 set -euo pipefail
 cd "$(dirname "$0")"
 
 packages=(cmake ninja-build g++ pkg-config
-          qt6-base-dev qt6-tools-dev qt6-l10n-tools libpugixml-dev libbenchmark-dev)
+          qt6-base-dev qt6-tools-dev qt6-l10n-tools libpugixml-dev libbenchmark-dev
+          qt6-declarative-dev qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
+          qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtqml-workerscript
+          qt6-qpa-plugins fonts-dejavu-core)
 
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 
@@ -78,8 +84,26 @@ run_fuzzers() {
     rm -rf "$workdir"
 }
 
+run_demo() {
+    install_missing_packages "${packages[@]}"
+    cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+    cmake --build build --target alarm-host
+    local host=build/bin/alarm-host
+    if [ $# -gt 0 ]; then
+        exec "$host" "$@"
+    elif [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+        exec "$host" --gui
+    else
+        echo "No display: the sample site's alarm list, then the virtual trigger \"Open gate\" fired."
+        "$host" --list
+        echo
+        "$host" --fire "Open gate" --no-list
+    fi
+}
+
 case "${1:-}" in
+    demo) shift; run_demo "$@" ;;
     test) shift; run_tests "$@" ;;
     fuzz) shift; run_fuzzers "$@" ;;
-    *) echo "usage: $0 test [--sanitize] | fuzz [SECONDS]" >&2; exit 2 ;;
+    *) echo "usage: $0 demo [alarm-host options] | test [--sanitize] | fuzz [SECONDS]" >&2; exit 2 ;;
 esac

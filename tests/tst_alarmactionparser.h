@@ -2,7 +2,7 @@
 
 // Shared by the action codec tests: the codec input as the alarm document decoder hands it, a manager
 // whose peers know a few devices and roles, and a typed rendering of action models so that a failed
-// comparison shows the differing target, with "0" and 0 told apart.
+// comparison shows the differing target.
 
 #include <QMetaType>
 #include <QStringList>
@@ -13,6 +13,7 @@
 #include "FakeFramework.h"
 #include "PluginAlarmManager.h"
 #include "TestData.h"
+#include "TestJson.h"
 #include "XML2Json.h"
 
 namespace ActionTest {
@@ -33,53 +34,7 @@ inline QVariantMap model(const QString& actionType, const QVariantList& targets)
     return {{QStringLiteral("actionType"), actionType}, {QStringLiteral("actionTarget"), targets}};
 }
 
-inline QString describe(const QVariant& value)
-{
-    switch (value.typeId()) {
-    case QMetaType::QVariantMap: {
-        QStringList entries;
-        const QVariantMap map = value.toMap();
-        for (auto it = map.cbegin(); it != map.cend(); ++it)
-            entries.append(it.key() + QStringLiteral(": ") + describe(it.value()));
-        return QStringLiteral("{") + entries.join(QStringLiteral(", ")) + QStringLiteral("}");
-    }
-    case QMetaType::QVariantList: {
-        QStringList items;
-        const QVariantList list = value.toList();
-        for (const QVariant& item : list)
-            items.append(describe(item));
-        return QStringLiteral("[") + items.join(QStringLiteral(", ")) + QStringLiteral("]");
-    }
-    case QMetaType::QString:
-        return QLatin1Char('"') + value.toString() + QLatin1Char('"');
-    case QMetaType::Bool:
-        return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
-    case QMetaType::Int:
-        return QStringLiteral("int ") + value.toString();
-    default:
-        return value.isValid() ? QString::fromLatin1(value.typeName()) + QLatin1Char(' ') + value.toString()
-                               : QStringLiteral("invalid");
-    }
-}
-
-// One line per map entry, and one per element of a list entry ("actionTarget[1]: {...}"), so QCOMPARE
-// names the first differing target.
-inline QStringList describeLines(const QVariantMap& map)
-{
-    QStringList lines;
-    for (auto it = map.cbegin(); it != map.cend(); ++it) {
-        if (it.value().typeId() != QMetaType::QVariantList) {
-            lines.append(it.key() + QStringLiteral(": ") + describe(it.value()));
-            continue;
-        }
-        const QVariantList items = it.value().toList();
-        if (items.isEmpty())
-            lines.append(it.key() + QStringLiteral(": []"));
-        for (int index = 0; index < items.size(); ++index)
-            lines.append(QStringLiteral("%1[%2]: %3").arg(it.key()).arg(index).arg(describe(items.at(index))));
-    }
-    return lines;
-}
+using TestJson::lines;
 
 // A manager whose device-tree and user-role peers know two cameras, one I/O box with two named outputs
 // and two user roles.

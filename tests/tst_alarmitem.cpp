@@ -25,8 +25,9 @@ QStringList rowOf(const QStandardItem* item)
         row.append(QStringLiteral("%1 %2=%3")
                        .arg(role)
                        .arg(QLatin1String(value.isValid() ? value.typeName() : "invalid"),
-                            value.typeId() == QMetaType::QVariantList ? QString::number(value.toList().size()) + QStringLiteral(" entries")
-                                                                       : value.toString()));
+                            value.typeId() == QMetaType::QVariantList
+                                ? QString::number(value.toList().size()) + " entries"
+                                : value.toString()));
     }
     return row;
 }
@@ -40,40 +41,44 @@ void tst_AlarmItem::storesEachRole_data()
 
     const QVariantList twoTriggers{QVariantMap{}, QVariantMap{}};
     QTest::newRow("every role given")
-        << QVariantMap{{QString::number(AlarmModel::idRole), QStringLiteral("11")},
-                       {QString::number(AlarmModel::nameRole), QStringLiteral("Lobby")},
+        << QVariantMap{{QString::number(AlarmModel::idRole), "11"},
+                       {QString::number(AlarmModel::nameRole), "Lobby"},
                        {QString::number(AlarmModel::enabledRole), true},
                        {QString::number(AlarmModel::triggerSourceRole), twoTriggers},
-                       {QString::number(AlarmModel::triggerTypeRole), QStringLiteral("Motion")},
-                       {QString::number(AlarmModel::actionTypeRole), QVariantList{QStringLiteral("SMS")}},
+                       {QString::number(AlarmModel::triggerTypeRole), "Motion"},
+                       {QString::number(AlarmModel::actionTypeRole), QVariantList{"SMS"}},
                        {QString::number(AlarmModel::actionTargetRole), QVariantList{QVariantList{}}},
-                       {QString::number(AlarmModel::scheduleRole), QVariantList{QStringLiteral("Always"), QStringLiteral("success"), QString()}},
+                       {QString::number(AlarmModel::scheduleRole), QVariantList{"Always", "success", QString()}},
                        {QString::number(AlarmModel::revisionRole), qlonglong(9000000000)},
-                       {QString::number(AlarmModel::descriptionRole), QStringLiteral("Night")},
-                       {QString::number(AlarmModel::triggerXmlRole), QStringLiteral("<TriggerList/>")},
-                       {QString::number(AlarmModel::actionXmlRole), QStringLiteral("<ActionList/>")}}
-        << QStringList{QStringLiteral("257 QString=11"), QStringLiteral("258 QString=Lobby"), QStringLiteral("259 bool=true"),
-                       QStringLiteral("260 QVariantList=2 entries"), QStringLiteral("261 QString=Motion"),
-                       QStringLiteral("262 QVariantList=1 entries"), QStringLiteral("263 QVariantList=1 entries"),
-                       QStringLiteral("264 QVariantList=3 entries"), QStringLiteral("265 qlonglong=9000000000"),
-                       QStringLiteral("266 QString=Night"), QStringLiteral("267 QString=<TriggerList/>"),
-                       QStringLiteral("268 QString=<ActionList/>")};
-    QTest::newRow("missing roles stored empty")
-        << QVariantMap{}
-        << QStringList{QStringLiteral("257 QString="), QStringLiteral("258 QString="), QStringLiteral("259 bool=false"),
-                       QStringLiteral("260 invalid="), QStringLiteral("261 invalid="), QStringLiteral("262 invalid="),
-                       QStringLiteral("263 invalid="), QStringLiteral("264 invalid="), QStringLiteral("265 qlonglong=0"),
-                       QStringLiteral("266 QString="), QStringLiteral("267 QString="), QStringLiteral("268 QString=")};
+                       {QString::number(AlarmModel::descriptionRole), "Night"},
+                       {QString::number(AlarmModel::triggerXmlRole), "<TriggerList/>"},
+                       {QString::number(AlarmModel::actionXmlRole), "<ActionList/>"}}
+        << QStringList{"257 QString=11",
+                       "258 QString=Lobby",
+                       "259 bool=true",
+                       "260 QVariantList=2 entries",
+                       "261 QString=Motion",
+                       "262 QVariantList=1 entries",
+                       "263 QVariantList=1 entries",
+                       "264 QVariantList=3 entries",
+                       "265 qlonglong=9000000000",
+                       "266 QString=Night",
+                       "267 QString=<TriggerList/>",
+                       "268 QString=<ActionList/>"};
+    QTest::newRow("missing roles stored empty") << QVariantMap{}
+                                                << QStringList{"257 QString=", "258 QString=", "259 bool=false",
+                                                               "260 invalid=", "261 invalid=", "262 invalid=",
+                                                               "263 invalid=", "264 invalid=", "265 qlonglong=0",
+                                                               "266 QString=", "267 QString=", "268 QString="};
     QTest::newRow("texts converted to the stored types")
         << QVariantMap{{QString::number(AlarmModel::idRole), 42},
-                       {QString::number(AlarmModel::enabledRole), QStringLiteral("true")},
+                       {QString::number(AlarmModel::enabledRole), "true"},
                        {QString::number(AlarmModel::triggerTypeRole), 7},
-                       {QString::number(AlarmModel::revisionRole), QStringLiteral("12")},
+                       {QString::number(AlarmModel::revisionRole), "12"},
                        {QString::number(AlarmModel::descriptionRole), 1.5}}
-        << QStringList{QStringLiteral("257 QString=42"), QStringLiteral("258 QString="), QStringLiteral("259 bool=true"),
-                       QStringLiteral("260 invalid="), QStringLiteral("261 int=7"), QStringLiteral("262 invalid="),
-                       QStringLiteral("263 invalid="), QStringLiteral("264 invalid="), QStringLiteral("265 qlonglong=12"),
-                       QStringLiteral("266 QString=1.5"), QStringLiteral("267 QString="), QStringLiteral("268 QString=")};
+        << QStringList{
+               "257 QString=42", "258 QString=", "259 bool=true",    "260 invalid=",    "261 int=7",    "262 invalid=",
+               "263 invalid=",   "264 invalid=", "265 qlonglong=12", "266 QString=1.5", "267 QString=", "268 QString="};
 }
 
 void tst_AlarmItem::storesEachRole()

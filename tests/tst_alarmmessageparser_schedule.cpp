@@ -11,8 +11,6 @@ class tst_AlarmMessageParserSchedule : public QObject
 private slots:
     void rectangles_data();
     void rectangles();
-    void ruleWithoutMappingLeavesBothTextsAsHandedIn();
-    void noFramesGiveAnEmptyText();
 };
 
 namespace {
@@ -86,6 +84,9 @@ void tst_AlarmMessageParserSchedule::rectangles_data()
     QTest::newRow("text instead of frames gives one empty rectangle")
         << QStringLiteral("<Mapping><Ele>junk</Ele></Mapping>") << ""
         << R"({"Rectangles":[{"Bottom":0,"Left":0,"RecordingMode":"Continuous","Right":0,"Top":0}]})";
+    QTest::newRow("no frames give an empty text") << QStringLiteral("<Mapping/>") << "kept" << "";
+    QTest::newRow("rule without mapping leaves both texts as handed in")
+        << QStringLiteral("<Name>x</Name>") << "kept" << "kept too";
 }
 
 void tst_AlarmMessageParserSchedule::rectangles()
@@ -94,36 +95,12 @@ void tst_AlarmMessageParserSchedule::rectangles()
     QFETCH(QString, name);
     QFETCH(QString, json);
     AlarmMessageParser parser(nullptr);
-    QString scheduleName;
-    QString rectangles;
-
-    parser.ParseTimeframeData(rule(ruleContent), scheduleName, rectangles);
-
-    QCOMPARE(scheduleName, name);
-    QCOMPARE(rectangles, json);
-}
-
-void tst_AlarmMessageParserSchedule::ruleWithoutMappingLeavesBothTextsAsHandedIn()
-{
-    AlarmMessageParser parser(nullptr);
     QString scheduleName = QStringLiteral("kept");
     QString rectangles = QStringLiteral("kept too");
 
-    parser.ParseTimeframeData(rule(QStringLiteral("<Name>x</Name>")), scheduleName, rectangles);
+    parser.ParseTimeframeData(rule(ruleContent), scheduleName, rectangles);
 
-    QCOMPARE(QStringList({scheduleName, rectangles}), QStringList({QStringLiteral("kept"), QStringLiteral("kept too")}));
-}
-
-void tst_AlarmMessageParserSchedule::noFramesGiveAnEmptyText()
-{
-    AlarmMessageParser parser(nullptr);
-    QString scheduleName;
-    QString rectangles = QStringLiteral("overwritten");
-
-    parser.ParseTimeframeData(rule(QStringLiteral("<Mapping/>")), scheduleName, rectangles);
-
-    QCOMPARE(rectangles, QString());
-    QCOMPARE(parser.ComposeJsonTimeframeMsg({}), QString());
+    QCOMPARE(QStringList({scheduleName, rectangles}), QStringList({name, json}));
 }
 
 QTEST_MAIN(tst_AlarmMessageParserSchedule)

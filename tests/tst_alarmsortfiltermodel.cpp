@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "AlarmModel.h"
+#include "AlarmRows.h"
 #include "AlarmSortFilterModel.h"
 #include "AlarmTranslatedModel.h"
 
@@ -25,64 +26,49 @@ private slots:
     void sortFollowsRowChanges();
 };
 
+using namespace AlarmRows;
+
 namespace {
-
-QVariantMap trigger(const QString& device, const QString& type, const QVariant& index = {}, const QVariant& value = {})
-{
-    QVariantMap map{{"devRealName", device.toLower()}, {"devName", device}, {"trigger", type}, {"latency", 0}};
-    if (index.isValid())
-        map.insert("index", index);
-    if (value.isValid())
-        map.insert("value", value);
-    return map;
-}
-
-QVariantMap target(const QString& target, const QString& action)
-{
-    return {{"target", target}, {"action", action}};
-}
 
 QVariant targets(const QVariantList& list)
 {
     return QVariant(list);
 }
 
-QStandardItem* alarmRow(const QString& name, const QVariantList& sources, const QString& type,
-                        const QVariantList& actionTypes, const QVariantList& actionTargets, const QVariantList& schedule)
+// Typed so that a single-element list never decays into its element.
+QStandardItem* rule(const QString& name, const QVariantList& sources, const QString& type,
+                    const QVariantList& actionTypes, const QVariantList& actionTargets, const QVariantList& schedule)
 {
-    auto* item = new QStandardItem;
-    item->setData(name.toLower(), AlarmModel::idRole);
-    item->setData(name, AlarmModel::nameRole);
-    item->setData(true, AlarmModel::enabledRole);
-    item->setData(sources, AlarmModel::triggerSourceRole);
-    item->setData(type, AlarmModel::triggerTypeRole);
-    item->setData(actionTypes, AlarmModel::actionTypeRole);
-    item->setData(actionTargets, AlarmModel::actionTargetRole);
-    item->setData(schedule, AlarmModel::scheduleRole);
-    return item;
+    return alarmRow(name, sources, type, actionTypes, actionTargets, schedule);
 }
 
 // Four rules whose orders differ for every sort role; raw values as the codecs decode them.
 void addRules(AlarmModel& model)
 {
-    const QVariantMap mail{{"target", "guard@site"}, {"action", ""}, {"cc", ""}, {"senderName", ""}, {"from", ""},
-                           {"subject", ""}, {"content", ""}, {"snapshotCameraList", QVariantList()}};
+    const QVariantMap mail{{"target", "guard@site"},
+                           {"action", ""},
+                           {"cc", ""},
+                           {"senderName", ""},
+                           {"from", ""},
+                           {"subject", ""},
+                           {"content", ""},
+                           {"snapshotCameraList", QVariantList()}};
     const QVariantMap post{{"target", "POST Method"}, {"action", "http://hook"}, {"post", true}};
     const QVariantMap siren{{"target", "IO box"}, {"action", "SetDO"}, {"index", "Siren"}, {"value", "1"},
-                            {"ioIndex", 1}, {"camId", "io-1"}, {"period", 0}};
-    model.appendRow(alarmRow("Front door", {trigger("Lobby", "DI", 1, "High")}, "DI", {"SendMail"},
-                             {targets({mail})}, {"Office hours", "success", "{}"}));
-    model.appendRow(alarmRow("Back door", {trigger("Yard", "Motion", 2)}, "Motion", {"HTTP", "SetDO"},
-                             {targets({post}), targets({siren})}, {"Night", "success", "{}"}));
-    model.appendRow(alarmRow("alpha", {trigger("Parking", "CamConn", {}, "Lost")}, "CamConn", {"Recording"},
-                             {targets({target("Gate cam", "")})}, {"Weekend", "success", "{}"}));
-    model.appendRow(alarmRow("Zeta", {}, "", {}, {}, {"Always", "success", "{}"}));
+                            {"ioIndex", 1},       {"camId", "io-1"},   {"period", 0}};
+    model.appendRow(rule("Front door", {trigger("Lobby", "DI", 1, "High")}, "DI", {"SendMail"}, {targets({mail})},
+                         {"Office hours", "success", "{}"}));
+    model.appendRow(rule("Back door", {trigger("Yard", "Motion", 2)}, "Motion", {"HTTP", "SetDO"},
+                         {targets({post}), targets({siren})}, {"Night", "success", "{}"}));
+    model.appendRow(rule("alpha", {trigger("Parking", "CamConn", {}, "Lost")}, "CamConn", {"Recording"},
+                         {targets({shown("Gate cam", "")})}, {"Weekend", "success", "{}"}));
+    model.appendRow(rule("Zeta", {}, "", {}, {}, {"Always", "success", "{}"}));
 }
 
 // A fifth rule, for the filter table: a name beyond ASCII and no schedule.
 void addNonAsciiRule(AlarmModel& model)
 {
-    model.appendRow(alarmRow(QStringLiteral("über alles"), {}, "", {}, {}, {}));
+    model.appendRow(rule("über alles", {}, "", {}, {}, {}));
 }
 
 QStringList names(const QAbstractItemModel& model)
@@ -117,7 +103,7 @@ void tst_AlarmSortFilterModel::filter_data()
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("shown");
 
-    const QStringList all{"Front door", "Back door", "alpha", "Zeta", QStringLiteral("über alles")};
+    const QStringList all{"Front door", "Back door", "alpha", "Zeta", "über alles"};
     QTest::newRow("empty filter shows every rule") << "" << all;
     QTest::newRow("blanks only are empty keywords") << "  " << all;
     QTest::newRow("name") << "door" << QStringList{"Front door", "Back door"};
@@ -134,8 +120,8 @@ void tst_AlarmSortFilterModel::filter_data()
     QTest::newRow("schedule status") << "success" << QStringList{"Front door", "Back door", "alpha", "Zeta"};
     QTest::newRow("nothing matches") << "zzz" << QStringList();
     QTest::newRow("one keyword of two matches nothing") << "door zzz" << QStringList();
-    QTest::newRow("a keyword never spans two texts") << QStringLiteral("door\u001Flobby") << QStringList();
-    QTest::newRow("case folding beyond ascii") << QStringLiteral("ÜBER") << QStringList{"über alles"};
+    QTest::newRow("a keyword never spans two texts") << "door\u001Flobby" << QStringList();
+    QTest::newRow("case folding beyond ascii") << "ÜBER" << QStringList{"über alles"};
 }
 
 void tst_AlarmSortFilterModel::filter()
@@ -156,8 +142,8 @@ void tst_AlarmSortFilterModel::sort_data()
     QTest::addColumn<Qt::SortOrder>("order");
     QTest::addColumn<QStringList>("shown");
 
-    QTest::newRow("name by character code") << int(AlarmModel::nameRole) << Qt::AscendingOrder
-                                            << QStringList{"Back door", "Front door", "Zeta", "alpha"};
+    QTest::newRow("name by character code")
+        << int(AlarmModel::nameRole) << Qt::AscendingOrder << QStringList{"Back door", "Front door", "Zeta", "alpha"};
     QTest::newRow("name descending") << int(AlarmModel::nameRole) << Qt::DescendingOrder
                                      << QStringList{"alpha", "Zeta", "Front door", "Back door"};
     QTest::newRow("first trigger device, none first") << int(AlarmModel::triggerSourceRole) << Qt::AscendingOrder
@@ -195,8 +181,8 @@ void tst_AlarmSortFilterModel::emptyRightScheduleNamesNothing()
     AlarmSortFilterModel list;
     texts.setSourceModel(&source);
     list.setSourceModel(&texts);
-    source.appendRow(alarmRow("Named", {}, "", {}, {}, {"Night", "success", "{}"}));
-    source.appendRow(alarmRow("Unnamed", {}, "", {}, {}, {}));
+    source.appendRow(rule("Named", {}, "", {}, {}, {"Night", "success", "{}"}));
+    source.appendRow(rule("Unnamed", {}, "", {}, {}, {}));
 
     // When sorted by schedule either way
     // Then neither sorts before the other: an empty list counts as the empty name on the right, and as not
@@ -223,27 +209,28 @@ void tst_AlarmSortFilterModel::listComparisons_data()
     const auto actionTargets = [](const QStringList& firstTargets) {
         QVariantList list;
         for (const QString& first : firstTargets)
-            list.append(targets({target(first, ""), target("zzz", "")}));
+            list.append(targets({shown(first, ""), shown("zzz", "")}));
         return list;
     };
 
-    QTest::newRow("sources: none before some") << "sources" << QVariantList() << sources({"A"}) << QList<bool>{true, false};
+    QTest::newRow("sources: none before some")
+        << "sources" << QVariantList() << sources({"A"}) << QList<bool>{true, false};
     QTest::newRow("sources: only the first device counts")
         << "sources" << sources({"Lobby", "A"}) << sources({"Lobby", "Z"}) << QList<bool>{false, false};
-    QTest::newRow("sources: case-sensitive") << "sources" << sources({"Zeta"}) << sources({"alpha"})
-                                             << QList<bool>{true, false};
-    QTest::newRow("types: first difference decides") << "types" << QVariantList{"Email", "Zap"}
-                                                     << QVariantList{"Email", "Bell"} << QList<bool>{false, true};
+    QTest::newRow("sources: case-sensitive")
+        << "sources" << sources({"Zeta"}) << sources({"alpha"}) << QList<bool>{true, false};
+    QTest::newRow("types: first difference decides")
+        << "types" << QVariantList{"Email", "Zap"} << QVariantList{"Email", "Bell"} << QList<bool>{false, true};
     QTest::newRow("types: prefix first") << "types" << QVariantList{"Email"} << QVariantList{"Email", "Bell"}
                                          << QList<bool>{true, false};
     QTest::newRow("types: equal lists") << "types" << QVariantList{"Email"} << QVariantList{"Email"}
                                         << QList<bool>{false, false};
-    QTest::newRow("targets: first target of each action") << "targets" << actionTargets({"Gate", "B"})
-                                                           << actionTargets({"Gate", "A"}) << QList<bool>{false, true};
-    QTest::newRow("targets: prefix first") << "targets" << actionTargets({"Gate"}) << actionTargets({"Gate", "A"})
-                                           << QList<bool>{true, false};
-    QTest::newRow("targets: no actions before some") << "targets" << QVariantList() << actionTargets({"A"})
-                                                     << QList<bool>{true, false};
+    QTest::newRow("targets: first target of each action")
+        << "targets" << actionTargets({"Gate", "B"}) << actionTargets({"Gate", "A"}) << QList<bool>{false, true};
+    QTest::newRow("targets: prefix first")
+        << "targets" << actionTargets({"Gate"}) << actionTargets({"Gate", "A"}) << QList<bool>{true, false};
+    QTest::newRow("targets: no actions before some")
+        << "targets" << QVariantList() << actionTargets({"A"}) << QList<bool>{true, false};
 }
 
 void tst_AlarmSortFilterModel::listComparisons()
@@ -275,7 +262,7 @@ void tst_AlarmSortFilterModel::filterFollowsRowChanges()
     // When a rule is renamed into the filter, another renamed out of it, one added and one removed
     chain.source.item(3)->setData("Side door", AlarmModel::nameRole);
     chain.source.item(0)->setData("Front gate", AlarmModel::nameRole);
-    chain.source.appendRow(alarmRow("Cellar door", {}, "", {}, {}, {}));
+    chain.source.appendRow(rule("Cellar door", {}, "", {}, {}, {}));
     chain.source.removeRow(1);
 
     // Then the list follows each change
@@ -315,7 +302,7 @@ void tst_AlarmSortFilterModel::sortFollowsRowChanges()
 
     // When a rule's first device is renamed, a rule is added and another removed
     chain.source.item(0)->setData(QVariantList{trigger("Zoo", "DI", 1, "High")}, AlarmModel::triggerSourceRole);
-    chain.source.insertRow(0, alarmRow("Attic", {trigger("Attic", "Motion", 1)}, "Motion", {}, {}, {}));
+    chain.source.insertRow(0, rule("Attic", {trigger("Attic", "Motion", 1)}, "Motion", {}, {}, {}));
     chain.source.removeRow(4);
 
     // Then the order follows

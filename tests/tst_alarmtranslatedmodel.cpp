@@ -4,6 +4,7 @@
 #include <QtTest>
 
 #include "AlarmModel.h"
+#include "AlarmRows.h"
 #include "AlarmTranslatedModel.h"
 
 // The display texts of the alarm list: what each raw trigger and action value reads as, that nothing else
@@ -12,14 +13,8 @@ class tst_AlarmTranslatedModel : public QObject
 {
     Q_OBJECT
 private slots:
-    void triggerType_data();
-    void triggerType();
-    void triggerSources_data();
-    void triggerSources();
-    void actionTypes_data();
-    void actionTypes();
-    void actionTargets_data();
-    void actionTargets();
+    void displayText_data();
+    void displayText();
     void otherRolesPassThrough();
     void wrongShapesGiveEmptyTexts_data();
     void wrongShapesGiveEmptyTexts();
@@ -29,17 +24,9 @@ private slots:
     void textsFollowSortAndReset();
 };
 
-namespace {
+using namespace AlarmRows;
 
-QVariantMap trigger(const QString& device, const QString& type, const QVariant& index = {}, const QVariant& value = {})
-{
-    QVariantMap map{{"devRealName", device.toLower()}, {"devName", device}, {"trigger", type}, {"latency", 0}};
-    if (index.isValid())
-        map.insert("index", index);
-    if (value.isValid())
-        map.insert("value", value);
-    return map;
-}
+namespace {
 
 QVariantMap ioTrigger(const QString& type, const QVariant& index, int kind)
 {
@@ -53,40 +40,16 @@ QVariantMap source(const QString& device, const QString& displayValue)
     return {{"devName", device}, {"displayValue", displayValue}};
 }
 
-QVariantMap shown(const QString& target, const QString& action)
-{
-    return {{"target", target}, {"action", action}};
-}
-
 QVariantMap mailTarget(const QString& to, const QString& cc)
 {
-    return {{"target", to}, {"action", ""}, {"senderName", "NVR"}, {"from", "nvr@site"}, {"cc", cc},
-            {"subject", "Alarm"}, {"content", "Door"}, {"snapshotCameraList", QVariantList()}};
+    return {{"target", to}, {"action", ""},       {"senderName", "NVR"}, {"from", "nvr@site"},
+            {"cc", cc},     {"subject", "Alarm"}, {"content", "Door"},   {"snapshotCameraList", QVariantList()}};
 }
 
 QVariantMap doTarget(const QString& device, const QString& output, const QString& value)
 {
-    return {{"target", device}, {"action", "SetDO"}, {"index", output}, {"value", value}, {"period", 0},
-            {"camId", "io-1"}, {"ioIndex", 1}};
-}
-
-QStandardItem* alarmRow(const QString& name, const QVariant& sources, const QVariant& type, const QVariant& actionTypes,
-                        const QVariant& actionTargets)
-{
-    auto* item = new QStandardItem;
-    item->setData(name.toLower(), AlarmModel::idRole);
-    item->setData(name, AlarmModel::nameRole);
-    item->setData(true, AlarmModel::enabledRole);
-    item->setData(sources, AlarmModel::triggerSourceRole);
-    item->setData(type, AlarmModel::triggerTypeRole);
-    item->setData(actionTypes, AlarmModel::actionTypeRole);
-    item->setData(actionTargets, AlarmModel::actionTargetRole);
-    item->setData(QVariantList{"Always", "success", "{}"}, AlarmModel::scheduleRole);
-    item->setData(qint64(7), AlarmModel::revisionRole);
-    item->setData("at the gate", AlarmModel::descriptionRole);
-    item->setData("<TriggerList/>", AlarmModel::triggerXmlRole);
-    item->setData("<ActionList/>", AlarmModel::actionXmlRole);
-    return item;
+    return {{"target", device}, {"action", "SetDO"}, {"index", output}, {"value", value},
+            {"period", 0},      {"camId", "io-1"},   {"ioIndex", 1}};
 }
 
 // Every translated role of every row, as one list, to compare a whole model at once.
@@ -113,7 +76,8 @@ struct Chain
     Chain()
     {
         proxy.setSourceModel(&source);
-        source.appendRow(alarmRow("Door", QVariantList{trigger("Lobby", "DI", 1, "High")}, "DI", QVariantList{"SendMail"},
+        source.appendRow(alarmRow("Door", QVariantList{trigger("Lobby", "DI", 1, "High")}, "DI",
+                                  QVariantList{"SendMail"},
                                   QVariantList{QVariant(QVariantList{mailTarget("guard@site", "")})}));
         source.appendRow(alarmRow("Yard", QVariantList{trigger("Yard", "Motion", 2)}, "Motion", QVariantList{"SMS"},
                                   QVariantList{QVariant(QVariantList{shown("0912", "")})}));
@@ -133,203 +97,142 @@ struct Chain
 
 } // namespace
 
-void tst_AlarmTranslatedModel::triggerType_data()
+void tst_AlarmTranslatedModel::displayText_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QVariantList>("sources");
-    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("sources");
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QVariant>("text");
 
-    QTest::newRow("fixed table") << "Motion" << QVariantList{trigger("Lobby", "Motion", 1)} << "Motion detection";
-    QTest::newRow("access rule shares the data magnet text") << "ExtAccessRule" << QVariantList() << "Data magnet";
-    QTest::newRow("unknown type shown as it is") << "NewEventOfNextYear" << QVariantList() << "NewEventOfNextYear";
-    QTest::newRow("vca rule kind from the codec") << "LineDetection" << QVariantList{trigger("Lobby", "VCA", "LineDetection")}
-                                                  << "Line crossing detection";
-    QTest::newRow("i/o device input") << "ExtIODevice" << QVariantList{ioTrigger("ExtIODevice", 1, 0)} << "DI/DO Device DI";
-    QTest::newRow("i/o device output") << "ExtIODevice" << QVariantList{ioTrigger("ExtIODevice", 1, 1)} << "DI/DO Device DO";
-    QTest::newRow("station i/o without a kind is an input") << "DIOStatus" << QVariantList{trigger("NVR", "DIOStatus", 1)}
-                                                            << "DI/DO Device DI";
-    QTest::newRow("camera lost") << "CamConn" << QVariantList{trigger("Lobby", "CamConn", {}, "Lost")} << "Camera disconnected";
-    QTest::newRow("camera connected") << "CamConn" << QVariantList{trigger("Lobby", "CamConn", {}, "Connected")}
-                                      << "Camera connected";
-    QTest::newRow("unknown camera state falls back to the raw type")
-        << "CamConn" << QVariantList{trigger("Lobby", "CamConn", {}, "Sleeping")} << "CamConn";
-    QTest::newRow("value of the trigger of that type, not of the last one")
-        << "RecStatus" << QVariantList{trigger("Lobby", "RecStatus", {}, "Stop"), trigger("Yard", "Motion", 1)}
-        << "Stop recording";
-    QTest::newRow("video loss") << "VideoLossRestore" << QVariantList{trigger("Lobby", "VideoLossRestore", {}, 0)}
-                                << "Video loss";
-    QTest::newRow("video restore") << "VideoLossRestore" << QVariantList{trigger("Lobby", "VideoLossRestore", {}, 1)}
-                                   << "Video restore";
-    QTest::newRow("station link down") << "StationConn" << QVariantList{trigger("NVR", "StationConn", {}, "Down")}
-                                       << "Network disconnected";
-    QTest::newRow("station link up") << "StationConn" << QVariantList{trigger("NVR", "StationConn", {}, "Up")}
-                                     << "Network connected";
-    QTest::newRow("system network down") << "SysNetwork" << QVariantList{trigger("NVR", "SysNetwork", {}, "Down")}
-                                         << "Network disconnected";
-    QTest::newRow("virtual memory low") << "SysVirMem" << QVariantList{trigger("NVR", "SysVirMem", {}, "Low")}
-                                        << "Low virtual memory";
-    QTest::newRow("virtual memory healthy") << "SysVirMem" << QVariantList{trigger("NVR", "SysVirMem", {}, "Healthy")}
-                                            << "Virtual memory available";
-    QTest::newRow("failover standby") << "FailoverState" << QVariantList{trigger("NVR", "FailoverState", {}, "Standby")}
-                                      << "Failover server on standby";
-    QTest::newRow("storage full") << "StorageCapacity" << QVariantList{trigger("NVR", "StorageCapacity", {}, "Exhausted")}
-                                  << "Storage full";
-    QTest::newRow("trial expired") << "SysLicense" << QVariantList{trigger("NVR", "SysLicense", {}, "TrialExpired")}
-                                   << "Trial expired";
-    QTest::newRow("g-sensor whatever the value") << "Gsensor" << QVariantList() << "Abnormal G-sensor motion (Mobile NVR)";
-    QTest::newRow("gps link") << "GpsConn" << QVariantList{trigger("Bus 4", "GpsConn", {}, "Lost")} << "GPS disconnected";
-    QTest::newRow("type text is case-sensitive") << "motion" << QVariantList() << "motion";
-}
+    // The stored value goes under the role, and the trigger list under its own role.
+    const auto type = [](const char* name, const QString& stored, const QVariantList& sources, const QString& text) {
+        QTest::newRow(name) << int(AlarmModel::triggerTypeRole) << QVariant(sources) << QVariant(stored)
+                            << QVariant(text);
+    };
+    type("fixed table", "Motion", {trigger("Lobby", "Motion", 1)}, "Motion detection");
+    type("access rule shares the data magnet text", "ExtAccessRule", {}, "Data magnet");
+    type("unknown type shown as it is", "NewEventOfNextYear", {}, "NewEventOfNextYear");
+    type("type text is case-sensitive", "motion", {}, "motion");
+    type("vca rule kind from the codec", "LineDetection", {trigger("Lobby", "VCA", "LineDetection")},
+         "Line crossing detection");
+    type("i/o device input", "ExtIODevice", {ioTrigger("ExtIODevice", 1, 0)}, "DI/DO Device DI");
+    type("i/o device output", "ExtIODevice", {ioTrigger("ExtIODevice", 1, 1)}, "DI/DO Device DO");
+    type("station i/o without a kind is an input", "DIOStatus", {trigger("NVR", "DIOStatus", 1)}, "DI/DO Device DI");
+    type("camera lost", "CamConn", {trigger("Lobby", "CamConn", {}, "Lost")}, "Camera disconnected");
+    type("unknown camera state falls back to the raw type", "CamConn", {trigger("Lobby", "CamConn", {}, "Sleeping")},
+         "CamConn");
+    type("value of the trigger of that type, not of the last one", "RecStatus",
+         {trigger("Lobby", "RecStatus", {}, "Stop"), trigger("Yard", "Motion", 1)}, "Stop recording");
+    type("numeric state value", "VideoLossRestore", {trigger("Lobby", "VideoLossRestore", {}, 0)}, "Video loss");
+    type("other numeric state value", "VideoLossRestore", {trigger("Lobby", "VideoLossRestore", {}, 1)},
+         "Video restore");
+    type("same state word, another type", "SysNetwork", {trigger("NVR", "SysNetwork", {}, "Down")},
+         "Network disconnected");
+    type("g-sensor whatever the value", "Gsensor", {}, "Abnormal G-sensor motion (Mobile NVR)");
 
-void tst_AlarmTranslatedModel::triggerType()
-{
-    QFETCH(QString, type);
-    QFETCH(QVariantList, sources);
-    QFETCH(QString, text);
+    const auto sources = [](const char* name, const QVariantList& sources, const QVariantList& shownSources) {
+        QTest::newRow(name) << int(AlarmModel::triggerSourceRole) << QVariant(sources) << QVariant()
+                            << QVariant(shownSources);
+    };
+    sources("camera input and output", {trigger("Lobby", "DI", 1, "High"), trigger("Lobby", "DO", 2, "Low")},
+            {source("Lobby", "DI-1"), source("Lobby", "DO-2")});
+    sources("motion window", {trigger("Yard", "Motion", 3)}, {source("Yard", "Window 3")});
+    sources("vca rule by its name", {trigger("Yard", "VCA", "Loitering")}, {source("Yard", "VCA-Loitering detection")});
+    sources("thermal rule and area", {trigger("Tank", "Thermal", "TemperatureRiseAlarm", 4)},
+            {source("Tank", "Temperature rise alarm 4")});
+    sources("numbered i/o device output", {ioTrigger("ExtIODevice", 2, 1)}, {source("IO box", "DO-2")});
+    sources("named i/o device input", {ioTrigger("ExtIODevice", "Door contact", 0)},
+            {source("IO box", "Door contact")});
+    sources("status in words", {trigger("Lobby", "CamConn", {}, "Lost")}, {source("Lobby", "Camera disconnected")});
+    sources("position triggers in capitals",
+            {trigger("Bus 4", "GPSConn", {}, "0"), trigger("Bus 4", "GPSSpeed", {}, "80")},
+            {source("Bus 4", "GPS disconnected"), source("Bus 4", "Speeding")});
+    sources("other kinds join index and value", {trigger("NVR", "Guardian", 3, "Visitors")},
+            {source("NVR", "3 Visitors")});
+    sources("only a value", {trigger("NVR", "ExtTCPMessage", {}, "OPEN")}, {source("NVR", "OPEN")});
+    sources("neither index nor value", {trigger("Panel", "VirtualTrigger")}, {source("Panel", "")});
 
-    AlarmModel source;
-    AlarmTranslatedModel proxy;
-    proxy.setSourceModel(&source);
-    source.appendRow(alarmRow("Rule", sources, type, QVariantList(), QVariantList()));
+    const auto actions = [](const char* name, int role, const QVariantList& stored, const QVariantList& texts) {
+        QTest::newRow(name) << role << QVariant() << QVariant(stored) << QVariant(texts);
+    };
+    const int types = AlarmModel::actionTypeRole;
+    actions("mail and http", types, {"SendMail", "HTTP"}, {"Email", "Send HTTP requests"});
+    actions("client notifications", types,
+            {"ClientNotificationGotoLiveStream", "ClientNotificationGotoEMap", "ClientNotificationSoundTheAlarm"},
+            {"Send live streaming", "Go to E-Map", "Sound the alarm"});
+    actions("decode-only kinds", types, {"AddBookmark", "PlayIPAudio", "MobileNotification"},
+            {"Add bookmark", "Play audio file with network audio device", "Send notification to mobile device"});
+    actions("unknown action type shown as it is", types, {"Teleport", "sendmail"}, {"Teleport", "sendmail"});
+    actions("whole action models", types, {QVariantMap{{"actionType", "SMS"}, {"actionTarget", QVariantList()}}},
+            {"GSM short message"});
 
-    QCOMPARE(proxy.index(0, 0).data(AlarmModel::triggerTypeRole), QVariant(text));
-}
-
-void tst_AlarmTranslatedModel::triggerSources_data()
-{
-    QTest::addColumn<QVariantList>("sources");
-    QTest::addColumn<QVariantList>("shownSources");
-
-    QTest::newRow("camera input and output")
-        << QVariantList{trigger("Lobby", "DI", 1, "High"), trigger("Lobby", "DO", 2, "Low")}
-        << QVariantList{source("Lobby", "DI-1"), source("Lobby", "DO-2")};
-    QTest::newRow("motion window") << QVariantList{trigger("Yard", "Motion", 3)} << QVariantList{source("Yard", "Window 3")};
-    QTest::newRow("vca rule by its name") << QVariantList{trigger("Yard", "VCA", "Loitering")}
-                                          << QVariantList{source("Yard", "VCA-Loitering detection")};
-    QTest::newRow("thermal rule and area") << QVariantList{trigger("Tank", "Thermal", "TemperatureRiseAlarm", 4)}
-                                           << QVariantList{source("Tank", "Temperature rise alarm 4")};
-    QTest::newRow("numbered i/o device output") << QVariantList{ioTrigger("ExtIODevice", 2, 1)}
-                                                << QVariantList{source("IO box", "DO-2")};
-    QTest::newRow("named i/o device input") << QVariantList{ioTrigger("ExtIODevice", "Door contact", 0)}
-                                            << QVariantList{source("IO box", "Door contact")};
-    QTest::newRow("status in words") << QVariantList{trigger("Lobby", "CamConn", {}, "Lost")}
-                                     << QVariantList{source("Lobby", "Camera disconnected")};
-    QTest::newRow("position triggers in capitals") << QVariantList{trigger("Bus 4", "GPSConn", {}, "0"),
-                                                                   trigger("Bus 4", "GPSSpeed", {}, "80")}
-                                                   << QVariantList{source("Bus 4", "GPS disconnected"),
-                                                                   source("Bus 4", "Speeding")};
-    QTest::newRow("other kinds join index and value") << QVariantList{trigger("NVR", "Guardian", 3, "Visitors")}
-                                                      << QVariantList{source("NVR", "3 Visitors")};
-    QTest::newRow("only a value") << QVariantList{trigger("NVR", "ExtTCPMessage", {}, "OPEN")}
-                                  << QVariantList{source("NVR", "OPEN")};
-    QTest::newRow("neither index nor value") << QVariantList{trigger("Panel", "VirtualTrigger")}
-                                             << QVariantList{source("Panel", "")};
-    QTest::newRow("no triggers") << QVariantList() << QVariantList();
-}
-
-void tst_AlarmTranslatedModel::triggerSources()
-{
-    QFETCH(QVariantList, sources);
-    QFETCH(QVariantList, shownSources);
-
-    AlarmModel model;
-    AlarmTranslatedModel proxy;
-    proxy.setSourceModel(&model);
-    model.appendRow(alarmRow("Rule", sources, "", QVariantList(), QVariantList()));
-
-    QCOMPARE(proxy.index(0, 0).data(AlarmModel::triggerSourceRole), QVariant(shownSources));
-}
-
-void tst_AlarmTranslatedModel::actionTypes_data()
-{
-    QTest::addColumn<QVariantList>("types");
-    QTest::addColumn<QVariantList>("texts");
-
-    QTest::newRow("mail and http") << QVariantList{"SendMail", "HTTP"} << QVariantList{"Email", "Send HTTP requests"};
-    QTest::newRow("client notifications")
-        << QVariantList{"ClientNotificationGotoLiveStream", "ClientNotificationGotoEMap", "ClientNotificationSoundTheAlarm"}
-        << QVariantList{"Send live streaming", "Go to E-Map", "Sound the alarm"};
-    QTest::newRow("decode-only kinds") << QVariantList{"AddBookmark", "PlayIPAudio", "MobileNotification"}
-                                       << QVariantList{"Add bookmark", "Play audio file with network audio device",
-                                                       "Send notification to mobile device"};
-    QTest::newRow("unknown type shown as it is") << QVariantList{"Teleport", "sendmail"}
-                                                 << QVariantList{"Teleport", "sendmail"};
-    QTest::newRow("whole action models") << QVariantList{QVariantMap{{"actionType", "SMS"}, {"actionTarget", QVariantList()}}}
-                                         << QVariantList{"GSM short message"};
-    QTest::newRow("empty list") << QVariantList() << QVariantList();
-}
-
-void tst_AlarmTranslatedModel::actionTypes()
-{
-    QFETCH(QVariantList, types);
-    QFETCH(QVariantList, texts);
-
-    AlarmModel model;
-    AlarmTranslatedModel proxy;
-    proxy.setSourceModel(&model);
-    model.appendRow(alarmRow("Rule", QVariantList(), "", types, QVariantList()));
-
-    QCOMPARE(proxy.index(0, 0).data(AlarmModel::actionTypeRole), QVariant(texts));
-}
-
-void tst_AlarmTranslatedModel::actionTargets_data()
-{
-    QTest::addColumn<QVariantList>("targets");
-    QTest::addColumn<QVariantList>("shownTargets");
-
-    const QVariantMap post{{"target", "POST Method"}, {"action", "http://hook/door"}, {"needAuth", "false"},
-                           {"user", ""}, {"pwd", ""}, {"post", true}, {"contentType", ""}, {"httpContent", ""}};
-    const QVariantMap triggerCamera{{"target", "Ereignisauslösende Kamera"}, {"action", ""}, {"camId", ""},
-                                    {"includeTriggerCam", true}};
+    const int targets = AlarmModel::actionTargetRole;
+    const auto one = [](const QVariantMap& target) { return QVariant(QVariantList{target}); };
+    const QVariantMap post{{"target", "POST Method"},
+                           {"action", "http://hook/door"},
+                           {"needAuth", "false"},
+                           {"user", ""},
+                           {"pwd", ""},
+                           {"post", true},
+                           {"contentType", ""},
+                           {"httpContent", ""}};
+    const QVariantMap triggerCamera{
+        {"target", "Ereignisauslösende Kamera"}, {"action", ""}, {"camId", ""}, {"includeTriggerCam", true}};
     const QVariantMap popupCamera{{"target", "Lobby"}, {"action", ""}, {"camId", "7"}, {"includeTriggerCam", false}};
     const QVariantMap allRoles{{"target", "Alle Rollen"}, {"action", ""}, {"pushAll", true}};
     const QVariantMap audio{{"target", "Hall speaker"}, {"action", "chime.mp3"}, {"fileId", 2}, {"ipAudioId", 5}};
-
-    QTest::newRow("mail without copies") << QVariantList{QVariant(QVariantList{mailTarget("a@site;b@site", "")})}
-                                         << QVariantList{QVariant(QVariantList{shown("To: a@site;b@site", "")})};
-    QTest::newRow("mail with copies") << QVariantList{QVariant(QVariantList{mailTarget("a@site", "boss@site")})}
-                                      << QVariantList{QVariant(QVariantList{shown("To: a@site", "Cc: boss@site")})};
-    QTest::newRow("outputs to trigger and to normal")
-        << QVariantList{QVariant(QVariantList{doTarget("IO box", "Siren", "1"), doTarget("IO box", "Lamp", "0")})}
-        << QVariantList{QVariant(QVariantList{shown("IO box", "Set Siren to Trigger"), shown("IO box", "Set Lamp to Normal")})};
-    QTest::newRow("output value in words and unknown")
-        << QVariantList{QVariant(QVariantList{doTarget("IO box", "Siren", "Trigger"), doTarget("IO box", "Lamp", "Blink")})}
-        << QVariantList{QVariant(QVariantList{shown("IO box", "Set Siren to Trigger"), shown("IO box", "Set Lamp to Blink")})};
-    QTest::newRow("unnamed output by number") << QVariantList{QVariant(QVariantList{doTarget("IO box", "", "1")})}
-                                              << QVariantList{QVariant(QVariantList{shown("IO box", "Set DO-1 to Trigger")})};
-    QTest::newRow("http method and address") << QVariantList{QVariant(QVariantList{post})}
-                                             << QVariantList{QVariant(QVariantList{shown("POST Method", "http://hook/door")})};
-    QTest::newRow("texts decoded in another language shown in the current one")
-        << QVariantList{QVariant(QVariantList{triggerCamera, popupCamera}), QVariant(QVariantList{allRoles})}
-        << QVariantList{QVariant(QVariantList{shown("Event triggering camera", ""), shown("Lobby", "")}),
-                        QVariant(QVariantList{shown("All roles", "")})};
-    QTest::newRow("other kinds keep target and action") << QVariantList{QVariant(QVariantList{audio})}
-                                                        << QVariantList{QVariant(QVariantList{shown("Hall speaker", "chime.mp3")})};
-    QTest::newRow("whole action models") << QVariantList{QVariantMap{{"actionType", "SMS"},
-                                                                     {"actionTarget", QVariantList{shown("0912", "")}}}}
-                                         << QVariantList{QVariant(QVariantList{shown("0912", "")})};
-    QTest::newRow("action without targets") << QVariantList{QVariant(QVariantList())} << QVariantList{QVariant(QVariantList())};
+    actions("mail without copies", targets, {one(mailTarget("a@site;b@site", ""))},
+            {one(shown("To: a@site;b@site", ""))});
+    actions("mail with copies", targets, {one(mailTarget("a@site", "boss@site"))},
+            {one(shown("To: a@site", "Cc: boss@site"))});
+    actions("output values in digits, words and unknown", targets,
+            {QVariant(QVariantList{doTarget("IO box", "Siren", "1"), doTarget("IO box", "Lamp", "0"),
+                                   doTarget("IO box", "Horn", "Trigger"), doTarget("IO box", "Fan", "Blink")})},
+            {QVariant(QVariantList{shown("IO box", "Set Siren to Trigger"), shown("IO box", "Set Lamp to Normal"),
+                                   shown("IO box", "Set Horn to Trigger"), shown("IO box", "Set Fan to Blink")})});
+    actions("unnamed output by number", targets, {one(doTarget("IO box", "", "1"))},
+            {one(shown("IO box", "Set DO-1 to Trigger"))});
+    actions("http method and address", targets, {one(post)}, {one(shown("POST Method", "http://hook/door"))});
+    actions("texts decoded in another language shown in the current one", targets,
+            {QVariantList{triggerCamera, popupCamera}, one(allRoles)},
+            {QVariantList{shown("Event triggering camera", ""), shown("Lobby", "")}, one(shown("All roles", ""))});
+    actions("other kinds keep target and action", targets, {one(audio)}, {one(shown("Hall speaker", "chime.mp3"))});
+    actions("whole action models keep their targets", targets,
+            {QVariantMap{{"actionType", "SMS"}, {"actionTarget", QVariantList{shown("0912", "")}}}},
+            {one(shown("0912", ""))});
+    actions("action without targets", targets, {QVariant(QVariantList())}, {QVariant(QVariantList())});
 }
 
-void tst_AlarmTranslatedModel::actionTargets()
+void tst_AlarmTranslatedModel::displayText()
 {
-    QFETCH(QVariantList, targets);
-    QFETCH(QVariantList, shownTargets);
+    QFETCH(int, role);
+    QFETCH(QVariant, sources);
+    QFETCH(QVariant, stored);
+    QFETCH(QVariant, text);
 
     AlarmModel model;
     AlarmTranslatedModel proxy;
+    QAbstractItemModelTester tester(&proxy, QAbstractItemModelTester::FailureReportingMode::QtTest);
     proxy.setSourceModel(&model);
-    model.appendRow(alarmRow("Rule", QVariantList(), "", QVariantList(), targets));
+    const auto storedFor = [&](int storedRole) { return role == storedRole ? stored : QVariant(); };
+    model.appendRow(alarmRow("Rule", sources, storedFor(AlarmModel::triggerTypeRole),
+                             storedFor(AlarmModel::actionTypeRole), storedFor(AlarmModel::actionTargetRole)));
 
-    QCOMPARE(proxy.index(0, 0).data(AlarmModel::actionTargetRole), QVariant(shownTargets));
+    QCOMPARE(proxy.index(0, 0).data(role), text);
 }
-
 void tst_AlarmTranslatedModel::otherRolesPassThrough()
 {
     Chain chain;
-    const QList<int> rawRoles{Qt::DisplayRole, Qt::EditRole, AlarmModel::idRole, AlarmModel::nameRole,
-                              AlarmModel::enabledRole, AlarmModel::scheduleRole, AlarmModel::revisionRole,
-                              AlarmModel::descriptionRole, AlarmModel::triggerXmlRole, AlarmModel::actionXmlRole};
+    const QList<int> rawRoles{Qt::DisplayRole,
+                              Qt::EditRole,
+                              AlarmModel::idRole,
+                              AlarmModel::nameRole,
+                              AlarmModel::enabledRole,
+                              AlarmModel::scheduleRole,
+                              AlarmModel::revisionRole,
+                              AlarmModel::descriptionRole,
+                              AlarmModel::triggerXmlRole,
+                              AlarmModel::actionXmlRole};
     for (int row = 0; row < chain.source.rowCount(); ++row) {
         QVariantList shownValues;
         QVariantList sourceValues;
@@ -352,8 +255,8 @@ void tst_AlarmTranslatedModel::wrongShapesGiveEmptyTexts_data()
 
     const QVariantList emptyRow{QVariantList(), QString(), QVariantList(), QVariantList()};
     QTest::newRow("nothing stored") << QVariant() << QVariant() << QVariant() << QVariant() << emptyRow;
-    QTest::newRow("texts where lists belong") << QVariant("Lobby") << QVariant() << QVariant("SendMail")
-                                              << QVariant("guard@site") << emptyRow;
+    QTest::newRow("texts where lists belong")
+        << QVariant("Lobby") << QVariant() << QVariant("SendMail") << QVariant("guard@site") << emptyRow;
     QTest::newRow("numbers inside the lists")
         << QVariant(QVariantList{42}) << QVariant(QVariantList{1, 2}) << QVariant(QVariantList{7})
         << QVariant(QVariantList{QVariant(QVariantList{3})})
@@ -408,7 +311,8 @@ void tst_AlarmTranslatedModel::triggerListChangeAlsoChangesTheTypeText()
     QSignalSpy changed(&chain.proxy, &QAbstractItemModel::dataChanged);
 
     // When only its trigger list changes, to a camera that came back
-    chain.source.item(2)->setData(QVariantList{trigger("Gate", "CamConn", {}, "Connected")}, AlarmModel::triggerSourceRole);
+    chain.source.item(2)->setData(QVariantList{trigger("Gate", "CamConn", {}, "Connected")},
+                                  AlarmModel::triggerSourceRole);
 
     // Then views hear that the type text changed too, and read the new one
     QList<int> changedRoles;

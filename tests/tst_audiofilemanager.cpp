@@ -32,10 +32,8 @@ class tst_AudioFileManager : public QObject
     Q_OBJECT
 
 private slots:
-    void initialOnExistingDirectoryCreatesNothing();
-    void initialCreatesMissingParents();
-    void initialFailsBelowARegularFile();
-    void initialOnEmptyPathFails();
+    void initial_data();
+    void initial();
     void fileList_data();
     void fileList();
     void saveWritesNewFile();
@@ -45,58 +43,41 @@ private slots:
     void storeWithoutPathLeavesCurrentDirectoryAlone();
 };
 
-void tst_AudioFileManager::initialOnExistingDirectoryCreatesNothing()
+void tst_AudioFileManager::initial_data()
 {
-    // Given a directory that already holds a sound
-    QTemporaryDir root;
-    QVERIFY(root.isValid());
-    QVERIFY(writeFile(root.filePath("a.mp3"), "ID3"));
+    QTest::addColumn<QString>("existingFile");
+    QTest::addColumn<QString>("directory");
+    QTest::addColumn<bool>("isReady");
+    QTest::addColumn<QStringList>("rootEntries");
 
-    // When the store is pointed at it
-    AudioFileManager store;
-    const bool isReady = store.initial(root.path());
-
-    // Then it is ready and the directory is as it was
-    QVERIFY(isReady);
-    QCOMPARE(store.directoryPath(), root.path());
-    QCOMPARE(QDir(root.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"a.mp3"});
+    QTest::newRow("existing directory is used as it is") << "a.mp3" << "" << true << QStringList{"a.mp3"};
+    QTest::newRow("missing parents are created") << "" << "client/alarm/sounds" << true << QStringList{"client"};
+    // Tests run as root, so permissions alone would not stop the directory from being made.
+    QTest::newRow("below a regular file fails but keeps the path")
+        << "settings.ini" << "settings.ini/sounds" << false << QStringList{"settings.ini"};
 }
 
-void tst_AudioFileManager::initialCreatesMissingParents()
+void tst_AudioFileManager::initial()
 {
+    QFETCH(QString, existingFile);
+    QFETCH(QString, directory);
+    QFETCH(bool, isReady);
+    QFETCH(QStringList, rootEntries);
     QTemporaryDir root;
     QVERIFY(root.isValid());
-    const QString path = root.filePath("client/alarm/sounds");
+    QVERIFY(existingFile.isEmpty() || writeFile(root.filePath(existingFile), "ID3"));
+    const QString path = directory.isEmpty() ? root.path() : root.filePath(directory);
 
     AudioFileManager store;
+    QCOMPARE(store.initial(path), isReady);
 
-    QVERIFY(store.initial(path));
-    QVERIFY(QFileInfo(path).isDir());
-}
-
-void tst_AudioFileManager::initialFailsBelowARegularFile()
-{
-    // Given a parent that is a regular file (tests run as root, so permissions alone would not stop mkpath)
-    QTemporaryDir root;
-    QVERIFY(root.isValid());
-    QVERIFY(writeFile(root.filePath("settings.ini"), "[General]\n"));
-    const QString path = root.filePath("settings.ini/sounds");
-
-    // When the store is pointed below it
-    AudioFileManager store;
-    const bool isReady = store.initial(path);
-
-    // Then it fails but keeps the path
-    QVERIFY(!isReady);
     QCOMPARE(store.directoryPath(), path);
-}
+    QCOMPARE(QFileInfo(path).isDir(), isReady);
+    QCOMPARE(QDir(root.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), rootEntries);
 
-void tst_AudioFileManager::initialOnEmptyPathFails()
-{
-    AudioFileManager store;
-
-    QVERIFY(!store.initial(QString()));
-    QCOMPARE(store.directoryPath(), QString());
+    AudioFileManager withoutPath;
+    QVERIFY(!withoutPath.initial(QString()));
+    QCOMPARE(withoutPath.directoryPath(), QString());
 }
 
 void tst_AudioFileManager::fileList_data()

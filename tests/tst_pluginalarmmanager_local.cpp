@@ -33,13 +33,12 @@ private:
 void tst_PluginAlarmManagerLocal::init()
 {
     m_framework = new FakeFramework;
-    m_framework->deviceTree.deviceTree.insert(QStringLiteral("cam1"), {{QStringLiteral("nameRole"), QStringLiteral("Lobby")}});
-    m_framework->deviceTree.deviceTree.insert(
-        QStringLiteral("io1"), {{QStringLiteral("nameRole"), QStringLiteral("Door box")},
-                                {QStringLiteral("diNameListRole"), QStringList{QStringLiteral("Door"), QStringLiteral("Window")}},
-                                {QStringLiteral("doNameListRole"), QStringList{QStringLiteral("Siren")}}});
-    m_framework->userRoles.roleNames.insert(3, QStringLiteral("Guards"));
-    m_framework->soundPath.soundPath = QStringLiteral("/tmp/sounds");
+    m_framework->deviceTree.deviceTree.insert("cam1", {{"nameRole", "Lobby"}});
+    m_framework->deviceTree.deviceTree.insert("io1", {{"nameRole", "Door box"},
+                                                      {"diNameListRole", QStringList{"Door", "Window"}},
+                                                      {"doNameListRole", QStringList{"Siren"}}});
+    m_framework->userRoles.roleNames.insert(3, "Guards");
+    m_framework->soundPath.soundPath = "/tmp/sounds";
     m_plugin = new PluginAlarmManager;
     m_plugin->InitialPluginBase(nullptr, &m_handle, m_framework);
 }
@@ -55,10 +54,14 @@ void tst_PluginAlarmManagerLocal::displayName_data()
     QTest::addColumn<QString>("deviceId");
     QTest::addColumn<QString>("name");
 
-    QTest::newRow("known camera") << "cam1" << "Lobby";
-    QTest::newRow("unknown device") << "cam9" << "";
-    QTest::newRow("empty id") << "" << "";
-    QTest::newRow("ids are case-sensitive") << "CAM1" << "";
+    QTest::newRow("known camera") << "cam1"
+                                  << "Lobby";
+    QTest::newRow("unknown device") << "cam9"
+                                    << "";
+    QTest::newRow("empty id") << ""
+                              << "";
+    QTest::newRow("ids are case-sensitive") << "CAM1"
+                                            << "";
 }
 
 void tst_PluginAlarmManagerLocal::displayName()
@@ -75,15 +78,24 @@ void tst_PluginAlarmManagerLocal::dioDisplayName_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("name");
 
-    QTest::newRow("input by index from 1") << "io1" << "DI" << 2 << "Window";
-    QTest::newRow("output by index from 1") << "io1" << "DO" << 1 << "Siren";
-    QTest::newRow("io name containing DI reads inputs") << "io1" << "ExtDI" << 1 << "Door";
-    QTest::newRow("anything else reads outputs") << "io1" << "di" << 1 << "Siren";
-    QTest::newRow("index past the list falls back") << "io1" << "DI" << 3 << "DI-3";
-    QTest::newRow("index 0 falls back") << "io1" << "DO" << 0 << "DO-0";
-    QTest::newRow("negative index falls back") << "io1" << "DI" << -1 << "DI--1";
-    QTest::newRow("device without names falls back") << "cam1" << "DO" << 2 << "DO-2";
-    QTest::newRow("unknown device falls back") << "x" << "DI" << 1 << "DI-1";
+    QTest::newRow("input by index from 1") << "io1"
+                                           << "DI" << 2 << "Window";
+    QTest::newRow("output by index from 1") << "io1"
+                                            << "DO" << 1 << "Siren";
+    QTest::newRow("io name containing DI reads inputs") << "io1"
+                                                        << "ExtDI" << 1 << "Door";
+    QTest::newRow("anything else reads outputs") << "io1"
+                                                 << "di" << 1 << "Siren";
+    QTest::newRow("index past the list falls back") << "io1"
+                                                    << "DI" << 3 << "DI-3";
+    QTest::newRow("index 0 falls back") << "io1"
+                                        << "DO" << 0 << "DO-0";
+    QTest::newRow("negative index falls back") << "io1"
+                                               << "DI" << -1 << "DI--1";
+    QTest::newRow("device without names falls back") << "cam1"
+                                                     << "DO" << 2 << "DO-2";
+    QTest::newRow("unknown device falls back") << "x"
+                                               << "DI" << 1 << "DI-1";
 }
 
 void tst_PluginAlarmManagerLocal::dioDisplayName()
@@ -118,8 +130,8 @@ void tst_PluginAlarmManagerLocal::roleName()
 
 void tst_PluginAlarmManagerLocal::soundPathComesFromItsPeer()
 {
-    QCOMPARE(m_plugin->getSoundPath(), QStringLiteral("/tmp/sounds"));
-    QCOMPARE(m_plugin->getSoundPath(), QStringLiteral("/tmp/sounds"));
+    QCOMPARE(m_plugin->getSoundPath(), "/tmp/sounds");
+    QCOMPARE(m_plugin->getSoundPath(), "/tmp/sounds");
     // Asked anew each time: nothing is cached.
     QCOMPARE(m_framework->soundPath.callCount, 2);
 }
@@ -127,19 +139,19 @@ void tst_PluginAlarmManagerLocal::soundPathComesFromItsPeer()
 void tst_PluginAlarmManagerLocal::missingPeersGiveEmptyValues()
 {
     m_framework->peers.clear();
-    QCOMPARE(m_plugin->queryDisplayName(QStringLiteral("cam1")), QString());
-    QCOMPARE(m_plugin->queryDIDODisplayName(QStringLiteral("io1"), QStringLiteral("DI"), 1), QStringLiteral("DI-1"));
+    QCOMPARE(m_plugin->queryDisplayName("cam1"), QString());
+    QCOMPARE(m_plugin->queryDIDODisplayName("io1", "DI", 1), "DI-1");
     QCOMPARE(m_plugin->queryRoleName(3), QString());
     QCOMPARE(m_plugin->getSoundPath(), QString());
-    QVERIFY(m_plugin->getValueFromDeviceTreeModel(QStringLiteral("cam1"), QStringLiteral("nameRole")).isNull());
+    QVERIFY(m_plugin->getValueFromDeviceTreeModel("cam1", "nameRole").isNull());
 }
 
 void tst_PluginAlarmManagerLocal::lookupsWithoutAFrameworkGiveEmptyValues()
 {
     PluginAlarmManager plugin;
-    QCOMPARE(plugin.queryDisplayName(QStringLiteral("cam1")), QString());
-    QCOMPARE(plugin.queryDIDODisplayName(QStringLiteral("io1"), QStringLiteral("DO"), 1), QStringLiteral("DO-1"));
-    QCOMPARE(plugin.queryRoleName(-1), QStringLiteral("Administrator"));
+    QCOMPARE(plugin.queryDisplayName("cam1"), QString());
+    QCOMPARE(plugin.queryDIDODisplayName("io1", "DO", 1), "DO-1");
+    QCOMPARE(plugin.queryRoleName(-1), "Administrator");
     QCOMPARE(plugin.getSoundPath(), QString());
 }
 
@@ -148,12 +160,17 @@ void tst_PluginAlarmManagerLocal::decodePercentEncoded_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("decoded");
 
-    QTest::newRow("plain text stays") << "Front door" << "Front door";
-    QTest::newRow("blank written as %20") << "Front%20door" << "Front door";
+    QTest::newRow("plain text stays") << "Front door"
+                                      << "Front door";
+    QTest::newRow("blank written as %20") << "Front%20door"
+                                          << "Front door";
     QTest::newRow("encoded UTF-8 decodes to non-ASCII") << "Cam%C3%A9ra" << QString::fromUtf8("Caméra");
-    QTest::newRow("non-ASCII text is never decoded") << QString::fromUtf8("Caméra%20A") << QString::fromUtf8("Caméra%20A");
-    QTest::newRow("a lone percent stays") << "100%" << "100%";
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("non-ASCII text is never decoded")
+        << QString::fromUtf8("Caméra%20A") << QString::fromUtf8("Caméra%20A");
+    QTest::newRow("a lone percent stays") << "100%"
+                                          << "100%";
+    QTest::newRow("empty") << ""
+                           << "";
 }
 
 void tst_PluginAlarmManagerLocal::decodePercentEncoded()

@@ -33,21 +33,21 @@ private slots:
 };
 
 namespace {
-const QString noContext = QStringLiteral("none");
-const QString argumentCopy = QStringLiteral("copy of the argument");
-const QString batchId = QStringLiteral("batch id");
-const QString nodeIdVariant = QStringLiteral("the argument itself");
+const QString noContext = "none";
+const QString argumentCopy = "copy of the argument";
+const QString batchId = "batch id";
+const QString nodeIdVariant = "the argument itself";
 
 // Two rules every request test starts from; the filter proxy lists them in this order.
 void addTwoRows(PluginFixture& fixture)
 {
-    AlarmRow gate = AlarmRow::of(QStringLiteral("a1"), QStringLiteral("Gate & yard"), true, 4);
-    gate.description = QStringLiteral("Back door");
-    gate.triggerXml = QStringLiteral("<TriggerList/>");
-    gate.actionXml = QStringLiteral("<ActionList/>");
-    gate.schedule = {QStringLiteral("Weekdays"), QStringLiteral("success"), QStringLiteral("{}")};
-    AlarmRow lobby = AlarmRow::of(QStringLiteral("a2"), QStringLiteral("Lobby"), false, 9);
-    lobby.schedule = {QStringLiteral("Nights"), QStringLiteral("success"), QString()};
+    AlarmRow gate = AlarmRow::of("a1", "Gate & yard", true, 4);
+    gate.description = "Back door";
+    gate.triggerXml = "<TriggerList/>";
+    gate.actionXml = "<ActionList/>";
+    gate.schedule = {"Weekdays", "success", "{}"};
+    AlarmRow lobby = AlarmRow::of("a2", "Lobby", false, 9);
+    lobby.schedule = {"Nights", "success", QString()};
     fixture.addRow(gate.item());
     fixture.addRow(lobby.item());
 }
@@ -56,7 +56,7 @@ void addTwoRows(PluginFixture& fixture)
 void release(PluginFixture& fixture, const RecordedRequest& request)
 {
     if (request.method != METHOD_CLOSE_EMAP_TAB && request.method != METHOD_CLOSE_ALARM_TAB)
-        fixture.answer(request.method, QVariant(), request.context, QStringLiteral("1"));
+        fixture.answer(request.method, QVariant(), request.context, "1");
 }
 } // namespace
 
@@ -68,10 +68,10 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
     QTest::addColumn<QString>("context");
 
     const QVariantMap addArguments{
-        {ARG_ALARM_NAME, "Front%20door"},           {ARG_ALARM_DESC, "L%C3%B6bby%20%26%20hall"},
-        {ARG_ALARM_TRG_LIST, "<TriggerList/>"},     {ARG_ALARM_ACT_LIST, "<ActionList/>"},
-        {ARG_ALARM_RELATED_DEV, "<Devices/>"},      {ARG_ALARM_TEMP_NAME, "Weekdays"},
-        {ARG_ALARM_TEMP_CONTENT, "<Mapping/>"},     {ARG_ALARM_ENABLED, false},
+        {ARG_ALARM_NAME, "Front%20door"},       {ARG_ALARM_DESC, "L%C3%B6bby%20%26%20hall"},
+        {ARG_ALARM_TRG_LIST, "<TriggerList/>"}, {ARG_ALARM_ACT_LIST, "<ActionList/>"},
+        {ARG_ALARM_RELATED_DEV, "<Devices/>"},  {ARG_ALARM_TEMP_NAME, "Weekdays"},
+        {ARG_ALARM_TEMP_CONTENT, "<Mapping/>"}, {ARG_ALARM_ENABLED, false},
     };
     QVariantMap addDefaultArguments = addArguments;
     addDefaultArguments[ARG_ALARM_ENABLED] = true;
@@ -83,7 +83,7 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
 
     const auto add = [](bool withEnabled) {
         return Invocation([withEnabled](PluginFixture& fixture) {
-            const QString name = QStringLiteral("Front door"), description = QStringLiteral("Löbby & hall");
+            const QString name = "Front door", description = "Löbby & hall";
             const QString triggers = "<TriggerList/>", actions = "<ActionList/>", devices = "<Devices/>";
             const QString templateName = "Weekdays", templateContent = "<Mapping/>";
             if (withEnabled)
@@ -98,7 +98,7 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
     };
     const auto update = [](bool withEnabled) {
         return Invocation([withEnabled](PluginFixture& fixture) {
-            const QString id = "a1", name = QStringLiteral("Front door"), description = QStringLiteral("Löbby & hall");
+            const QString id = "a1", name = "Front door", description = "Löbby & hall";
             const QString triggers = "<TriggerList/>", actions = "<ActionList/>", devices = "<Devices/>";
             const QString templateName = "Weekdays", templateContent = "<Mapping/>";
             if (withEnabled)
@@ -106,16 +106,15 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
                                       Q_ARG(QString, description), Q_ARG(QString, triggers), Q_ARG(QString, actions),
                                       Q_ARG(QString, devices), Q_ARG(QString, templateName),
                                       Q_ARG(QString, templateContent), Q_ARG(bool, false));
-            return fixture.invoke("updateAlarm", Q_ARG(QString, id), Q_ARG(QString, name),
-                                  Q_ARG(QString, description), Q_ARG(QString, triggers), Q_ARG(QString, actions),
-                                  Q_ARG(QString, devices), Q_ARG(QString, templateName),
-                                  Q_ARG(QString, templateContent));
+            return fixture.invoke("updateAlarm", Q_ARG(QString, id), Q_ARG(QString, name), Q_ARG(QString, description),
+                                  Q_ARG(QString, triggers), Q_ARG(QString, actions), Q_ARG(QString, devices),
+                                  Q_ARG(QString, templateName), Q_ARG(QString, templateContent));
         });
     };
 
     QTest::newRow("getAllAlarm sends a null argument")
-        << Invocation([](PluginFixture& f) { return f.invoke("getAllAlarm"); }) << METHOD_GET_ALL_ALARM
-        << QVariant() << noContext;
+        << Invocation([](PluginFixture& f) { return f.invoke("getAllAlarm"); }) << METHOD_GET_ALL_ALARM << QVariant()
+        << noContext;
     QTest::newRow("addAlarm percent-encodes name and description")
         << add(true) << METHOD_ADD_ALARM << QVariant(addArguments) << argumentCopy;
     QTest::newRow("addAlarm without enabled sends enabled")
@@ -124,12 +123,11 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
         << update(true) << METHOD_UPD_ALARM << QVariant(updateArguments) << argumentCopy;
     QTest::newRow("updateAlarm without enabled sends enabled")
         << update(false) << METHOD_UPD_ALARM << QVariant(updateDefaultArguments) << argumentCopy;
-    QTest::newRow("deleteAlarms sends revision and id of a listed row")
-        << Invocation([](PluginFixture& f) {
-               const QVariantList rows{1};
-               return f.invoke("deleteAlarms", Q_ARG(QVariantList, rows));
-           })
-        << METHOD_DEL_ALARM << QVariant(QVariantMap{{ARG_ALARM_REV, 9}, {ARG_ALARM_ID, "a2"}}) << batchId;
+    QTest::newRow("deleteAlarms sends revision and id of a listed row") << Invocation([](PluginFixture& f) {
+        const QVariantList rows{1};
+        return f.invoke("deleteAlarms", Q_ARG(QVariantList, rows));
+    }) << METHOD_DEL_ALARM << QVariant(QVariantMap{{ARG_ALARM_REV, 9}, {ARG_ALARM_ID, "a2"}})
+                                                                        << batchId;
     QTest::newRow("sendHttpRequest sends the seven fields")
         << Invocation([](PluginFixture& f) {
                return f.invoke("sendHttpRequest", Q_ARG(QString, "http://h/x y"), Q_ARG(bool, true),
@@ -137,8 +135,12 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
                                Q_ARG(QString, "text/plain"), Q_ARG(QString, "body"));
            })
         << METHOD_SEND_HTTP
-        << QVariant(QVariantMap{{ARG_HTTP_URL, "http://h/x y"}, {ARG_HTTP_NEEDAUTH, true}, {ARG_HTTP_USER, "u"},
-                                {ARG_HTTP_PWD, "p"}, {ARG_HTTP_METHOD, "POST"}, {ARG_HTTP_CONTENT_TYPE, "text/plain"},
+        << QVariant(QVariantMap{{ARG_HTTP_URL, "http://h/x y"},
+                                {ARG_HTTP_NEEDAUTH, true},
+                                {ARG_HTTP_USER, "u"},
+                                {ARG_HTTP_PWD, "p"},
+                                {ARG_HTTP_METHOD, "POST"},
+                                {ARG_HTTP_CONTENT_TYPE, "text/plain"},
                                 {ARG_HTTP_CONTENT, "body"}})
         << noContext;
     QTest::newRow("updateAlarmSchedule sends the whole rule with the batch")
@@ -147,10 +149,15 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
                                Q_ARG(QString, "<Mapping/>"));
            })
         << METHOD_UPD_ALARM_SCHEDULE
-        << QVariant(QVariantMap{{ARG_ALARM_ID, "a1"}, {ARG_ALARM_REV, 5}, {ARG_ALARM_NAME, "Gate%20%26%20yard"},
-                                {ARG_ALARM_DESC, "Back%20door"}, {ARG_ALARM_TRG_LIST, "<TriggerList/>"},
-                                {ARG_ALARM_ACT_LIST, "<ActionList/>"}, {ARG_ALARM_ENABLED, true},
-                                {ARG_ALARM_TEMP_NAME, "Workdays"}, {ARG_ALARM_TEMP_CONTENT, "<Mapping/>"},
+        << QVariant(QVariantMap{{ARG_ALARM_ID, "a1"},
+                                {ARG_ALARM_REV, 5},
+                                {ARG_ALARM_NAME, "Gate%20%26%20yard"},
+                                {ARG_ALARM_DESC, "Back%20door"},
+                                {ARG_ALARM_TRG_LIST, "<TriggerList/>"},
+                                {ARG_ALARM_ACT_LIST, "<ActionList/>"},
+                                {ARG_ALARM_ENABLED, true},
+                                {ARG_ALARM_TEMP_NAME, "Workdays"},
+                                {ARG_ALARM_TEMP_CONTENT, "<Mapping/>"},
                                 {ARG_CONTEXT_UID, "batch id"}})
         << argumentCopy;
     QTest::newRow("getAlarmSoundList sends a null argument")
@@ -168,9 +175,12 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
                                Q_ARG(int, 3), Q_ARG(int, 7), Q_ARG(QString, "Gate camera"));
            })
         << METHOD_VIRTUAL_TRIGGER
-        << QVariant(QVariantMap{{ARG_VIRTUAL_TRIGGER_NAME, "Open gate"}, {ARG_VIRTUAL_TRIGGER_ID, 7},
-                                {ARG_VIRTUAL_TRIGGER_ICON_TYPE, 3}, {ARG_CAMERA, "cam1"}, {ARG_CAMERA_NAME, "Gate camera"}})
-        << QStringLiteral("int 7");
+        << QVariant(QVariantMap{{ARG_VIRTUAL_TRIGGER_NAME, "Open gate"},
+                                {ARG_VIRTUAL_TRIGGER_ID, 7},
+                                {ARG_VIRTUAL_TRIGGER_ICON_TYPE, 3},
+                                {ARG_CAMERA, "cam1"},
+                                {ARG_CAMERA_NAME, "Gate camera"}})
+        << "int 7";
     QTest::newRow("toggleAllAlarm sends flag and interval")
         << Invocation([](PluginFixture& f) { return f.invoke("toggleAllAlarm", Q_ARG(bool, false), Q_ARG(int, 60)); })
         << METHOD_TOGGLE_ALL_ALARM << QVariant(QVariantMap{{ARG_TOGGLE_ENABLE, false}, {ARG_TOGGLE_INTERVAL, 60}})
@@ -178,7 +188,7 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
     QTest::newRow("toggleAlarm renames the entries and skips those without id")
         << Invocation([](PluginFixture& f) {
                const QVariantList configuration{QVariantMap{{"id", "a1"}, {"enable", false}},
-                                                QVariantMap{{"enable", true}}, QStringLiteral("not a map"),
+                                                QVariantMap{{"enable", true}}, "not a map",
                                                 QVariantMap{{"id", "a2"}, {"enable", true}}};
                return f.invoke("toggleAlarm", Q_ARG(QVariantList, configuration));
            })
@@ -186,18 +196,16 @@ void tst_PluginAlarmManagerRequests::invokableSendsItsRequest_data()
         << QVariant(QVariantList{QVariantMap{{ARG_ALARM_ID, "a1"}, {ARG_TOGGLE_ENABLE, false}},
                                  QVariantMap{{ARG_ALARM_ID, "a2"}, {ARG_TOGGLE_ENABLE, true}}})
         << argumentCopy;
-    QTest::newRow("closeEMapTab hands over one heap list")
-        << Invocation([](PluginFixture& f) {
-               const QStringList nodeIds{"n1", "n2"};
-               return f.invoke("closeEMapTab", Q_ARG(QStringList, nodeIds));
-           })
-        << METHOD_CLOSE_EMAP_TAB << QVariant(QStringList{"n1", "n2"}) << nodeIdVariant;
-    QTest::newRow("closeAlarmTab hands over one heap list")
-        << Invocation([](PluginFixture& f) {
-               const QStringList nodeIds{"n3"};
-               return f.invoke("closeAlarmTab", Q_ARG(QStringList, nodeIds));
-           })
-        << METHOD_CLOSE_ALARM_TAB << QVariant(QStringList{"n3"}) << nodeIdVariant;
+    QTest::newRow("closeEMapTab hands over one heap list") << Invocation([](PluginFixture& f) {
+        const QStringList nodeIds{"n1", "n2"};
+        return f.invoke("closeEMapTab", Q_ARG(QStringList, nodeIds));
+    }) << METHOD_CLOSE_EMAP_TAB << QVariant(QStringList{"n1", "n2"})
+                                                           << nodeIdVariant;
+    QTest::newRow("closeAlarmTab hands over one heap list") << Invocation([](PluginFixture& f) {
+        const QStringList nodeIds{"n3"};
+        return f.invoke("closeAlarmTab", Q_ARG(QStringList, nodeIds));
+    }) << METHOD_CLOSE_ALARM_TAB << QVariant(QStringList{"n3"})
+                                                            << nodeIdVariant;
     QTest::newRow("closeAlarmNotification sends a null argument")
         << Invocation([](PluginFixture& f) { return f.invoke("closeAlarmNotification"); })
         << METHOD_CLOSE_ALARM_NOTIFICATION << QVariant() << noContext;
@@ -346,10 +354,10 @@ void tst_PluginAlarmManagerRequests::deleteAlarmsCountsRefusedRequests_data()
     QTest::newRow("all sent") << QVariantList{0, 1} << QStringList() << true << QStringList{"a1", "a2"};
     QTest::newRow("one refused still forms the batch")
         << QVariantList{0, 1} << QStringList{"a1"} << true << QStringList{"a2"};
-    QTest::newRow("all refused leaves no batch") << QVariantList{0, 1} << QStringList{"a1", "a2"} << false
-                                                 << QStringList();
+    QTest::newRow("all refused leaves no batch")
+        << QVariantList{0, 1} << QStringList{"a1", "a2"} << false << QStringList();
     QTest::newRow("rows outside the list are not sent")
-        << QVariantList{5, -1, QStringLiteral("x"), 1} << QStringList() << true << QStringList{"a2"};
+        << QVariantList{5, -1, "x", 1} << QStringList() << true << QStringList{"a2"};
 }
 
 void tst_PluginAlarmManagerRequests::deleteAlarmsCountsRefusedRequests()
@@ -421,7 +429,7 @@ void tst_PluginAlarmManagerRequests::loadedPluginListsAlarmsEndToEnd()
     auto* plugin = qobject_cast<PluginBase*>(loader.instance());
     QVERIFY2(plugin, qPrintable(loader.errorString()));
     FakeFramework framework;
-    framework.licence.editionFeature = {{QStringLiteral("supportGuardian"), true}};
+    framework.licence.editionFeature = {{"supportGuardian", true}};
     int handle = 0;
     QVERIFY(plugin->InitialPluginBase(nullptr, &handle, &framework));
     QSignalSpy listed(plugin, SIGNAL(getAlarmResp(bool)));
@@ -431,8 +439,7 @@ void tst_PluginAlarmManagerRequests::loadedPluginListsAlarmsEndToEnd()
     QVERIFY(QMetaObject::invokeMethod(plugin, "getAllAlarm", Q_RETURN_ARG(bool, sent)));
     QVERIFY(sent);
     QCOMPARE(framework.methods(), QStringList{METHOD_GET_ALL_ALARM});
-    plugin->CommandProcessor(METHOD_GET_ALL_ALARM, TestData::text(QStringLiteral("core_alarmlist.xml")), nullptr,
-                             QStringLiteral("0"), QString(), false, QString());
+    plugin->CommandProcessor(METHOD_GET_ALL_ALARM, TestData::text("core_alarmlist.xml"), nullptr, "0", {}, false, {});
 
     // Then QML is told, and the model it asks for by name holds every rule of the document
     QCOMPARE(listed.size(), 1);

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+#include "AlarmHost.h"
+
+class QCoreApplication;
+class QQmlApplicationEngine;
+class QTranslator;
+class EnabledStateFilter;
+
+// The host with the example QML page. QML sees the plug-in as "alarmManager", the site as "site", the
+// page's enabled/disabled switch over the plug-in's list as "alarmList", and this object as "host"
+// (languages, reconnect). With a screenshot path it renders offscreen, saves the window once the list is
+// there, prints what the list shows as JSON and exits.
+class GuiRunner : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString language READ language NOTIFY languageChanged)
+    Q_PROPERTY(QStringList languages READ languages CONSTANT)
+public:
+    struct Settings
+    {
+        QString screenshotPath;
+        QString searchText;
+        QString language;
+        QString cameraId;
+        QStringList fires;
+        int editorRow = -1;
+        QStringList pageActions; // "disable:1001", "delete:1002", "duplicate:1003"
+        int timeoutMs = 10000;
+    };
+
+    // A screenshot run needs no display: it picks the offscreen platform and the software renderer.
+    static std::unique_ptr<QCoreApplication> createApplication(int& argc, char** argv, const Settings& settings);
+
+    GuiRunner(AlarmHost* host, Settings settings, QObject* parent = nullptr);
+    ~GuiRunner() override;
+
+    int run(const AlarmHost::Options& options);
+
+    QString language() const { return m_language; }
+    QStringList languages() const;
+    // Switches the page and the plug-in's texts to a shipped translation ("en" for none).
+    Q_INVOKABLE void setLanguage(const QString& language);
+    Q_INVOKABLE void reconnect();
+
+signals:
+    void languageChanged();
+
+private:
+    bool applyTranslator(const QString& language);
+    void listArrived();
+    void takeScreenshot();
+
+    AlarmHost* m_host;
+    Settings m_settings;
+    QQmlApplicationEngine* m_engine = nullptr;
+    QTranslator* m_translator = nullptr;
+    EnabledStateFilter* m_alarmList = nullptr;
+    QString m_language = QStringLiteral("en");
+    bool m_isScreenshotPending = false;
+    bool m_isFirstList = true;
+    QStringList m_awaitedSignals;
+};
