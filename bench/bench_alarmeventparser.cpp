@@ -3,7 +3,7 @@
 // the same run. The closing line prints the ratio of the two; the core's whole event path aims at 3x.
 
 #include <QStringList>
-#include <QXmlStreamReader>
+#include "TokenPass.h"
 
 #include <benchmark/benchmark.h>
 
@@ -92,10 +92,7 @@ void BM_XmlStreamReader_TokenPass(benchmark::State& state)
     const QStringList& documents = eventDocuments();
     for (auto _ : state) {
         for (const QString& xml : documents) {
-            QXmlStreamReader reader(xml);
-            while (!reader.atEnd())
-                reader.readNext();
-            benchmark::DoNotOptimize(reader.hasError());
+            tokenPass(xml);
         }
     }
     state.SetItemsProcessed(state.iterations() * documents.size());
