@@ -14,13 +14,6 @@ const QString KEY_ACTION = QStringLiteral("action");
 // Stands between the texts of one row in its search text; a keyword holding it is matched text by text.
 constexpr QChar SEARCH_SEPARATOR = QChar(0x1F);
 
-// Lists as the display proxy gives them; a text, which QVariant would split into characters, is no list.
-QVariantList listOf(const QVariant& value)
-{
-    const int type = value.typeId();
-    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
-}
-
 // The texts a keyword is looked for in, per display shape.
 QStringList triggerSourceTexts(const QVariantList& list)
 {
@@ -121,24 +114,9 @@ AlarmSortFilterModel::~AlarmSortFilterModel() = default;
 
 void AlarmSortFilterModel::setSourceModel(QAbstractItemModel* newSourceModel)
 {
-    for (const QMetaObject::Connection& connection : std::as_const(m_sourceConnections))
-        disconnect(connection);
-    m_sourceConnections.clear();
-    m_rows.clear();
-
-    // Connected before the base class connects its own handling, so that the kept texts and keys are right
-    // by the time it filters and sorts the changed rows.
-    if (newSourceModel) {
-        m_sourceConnections = {
-            connect(newSourceModel, &QAbstractItemModel::dataChanged, this, &AlarmSortFilterModel::forgetChangedRows),
-            connect(newSourceModel, &QAbstractItemModel::rowsInserted, this, &AlarmSortFilterModel::makeRoomForRows),
-            connect(newSourceModel, &QAbstractItemModel::rowsRemoved, this, &AlarmSortFilterModel::dropRows),
-            connect(newSourceModel, &QAbstractItemModel::rowsMoved, this, &AlarmSortFilterModel::forgetAll),
-            connect(newSourceModel, &QAbstractItemModel::layoutChanged, this, &AlarmSortFilterModel::forgetAll),
-            connect(newSourceModel, &QAbstractItemModel::modelAboutToBeReset, this, &AlarmSortFilterModel::forgetAll),
-            connect(newSourceModel, &QAbstractItemModel::modelReset, this, &AlarmSortFilterModel::forgetAll),
-        };
-    }
+    // Followed before the base class connects its own handling, so that the kept texts and keys are right by
+    // the time it filters and sorts the changed rows.
+    m_rows.follow(this, newSourceModel);
     QSortFilterProxyModel::setSourceModel(newSourceModel);
 }
 
@@ -216,25 +194,13 @@ QStringList AlarmSortFilterModel::sortKey(const QModelIndex& row, int role) cons
     }
 }
 
-AlarmSortFilterModel::RowCache* AlarmSortFilterModel::cacheOf(const QModelIndex& sourceRow,
-                                                            const QModelIndex& sourceParent) const
-{
-    // The alarm list is flat; rows of any deeper level are worked out on each call.
-    if (!sourceRow.isValid() || sourceParent.isValid() || !sourceModel())
-        return nullptr;
-    const size_t row = static_cast<size_t>(sourceRow.row());
-    if (row >= m_rows.size())
-        m_rows.resize(static_cast<size_t>(sourceModel()->rowCount()));
-    return row < m_rows.size() ? &m_rows[row] : nullptr;
-}
-
 bool AlarmSortFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
     if (m_keywords.isEmpty() || !sourceModel())
         return true;
     const QModelIndex row = sourceModel()->index(sourceRow, 0, sourceParent);
 
-    RowCache* cache = cacheOf(row, sourceParent);
+    RowCache* cache = m_rows.find(row);
     if (!cache || m_keywordsHoldSeparator) {
         const QStringList texts = rowTexts(row);
         return std::all_of(m_keywords.cbegin(), m_keywords.cend(),
@@ -251,10 +217,8 @@ bool AlarmSortFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex& so
 bool AlarmSortFilterModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
     const int role = sortRole();
-    // Both rows of one comparison share their parent.
-    const QModelIndex parent = left.parent();
-    const auto keyOf = [this, role, &parent](const QModelIndex& row) {
-        RowCache* cache = cacheOf(row, parent);
+    const auto keyOf = [this, role](const QModelIndex& row) {
+        RowCache* cache = m_rows.find(row);
         if (!cache)
             return sortKey(row, role);
         if (cache->sortKeyRole != role) {
@@ -266,34 +230,4 @@ bool AlarmSortFilterModel::lessThan(const QModelIndex& left, const QModelIndex& 
     const QStringList leftKey = keyOf(left);
     const QStringList rightKey = keyOf(right);
     return role == AlarmModel::scheduleRole ? scheduleKeyLess(leftKey, rightKey) : keyLess(leftKey, rightKey);
-}
-
-void AlarmSortFilterModel::forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight)
-{
-    if (!topLeft.isValid() || !bottomRight.isValid() || topLeft.parent().isValid())
-        return;
-    const size_t end = std::min(m_rows.size(), static_cast<size_t>(bottomRight.row()) + 1);
-    for (size_t row = static_cast<size_t>(topLeft.row()); row < end; ++row)
-        m_rows[row] = RowCache();
-}
-
-void AlarmSortFilterModel::makeRoomForRows(const QModelIndex& parent, int first, int last)
-{
-    if (parent.isValid() || first < 0 || last < first || static_cast<size_t>(first) > m_rows.size())
-        return;
-    m_rows.insert(m_rows.begin() + first, static_cast<size_t>(last - first + 1), RowCache());
-}
-
-void AlarmSortFilterModel::dropRows(const QModelIndex& parent, int first, int last)
-{
-    if (parent.isValid() || first < 0 || last < first)
-        return;
-    const size_t begin = std::min(m_rows.size(), static_cast<size_t>(first));
-    const size_t end = std::min(m_rows.size(), static_cast<size_t>(last) + 1);
-    m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(begin), m_rows.begin() + static_cast<std::ptrdiff_t>(end));
-}
-
-void AlarmSortFilterModel::forgetAll()
-{
-    m_rows.clear();
 }

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <QList>
-#include <QMetaObject>
 #include <QSortFilterProxyModel>
 #include <QStringList>
 #include <QVariantList>
 
-#include <vector>
+#include "SourceRowCache.h"
 
 // The alarm list as QML shows it: a free-text AND filter over the display texts and sorting by any
 // role. Its source must be AlarmTranslatedModel, since it reads the display shapes, not raw values.
@@ -45,16 +43,9 @@ private:
 
     QStringList rowTexts(const QModelIndex& row) const;
     QStringList sortKey(const QModelIndex& row, int role) const;
-    RowCache* cacheOf(const QModelIndex& sourceRow, const QModelIndex& sourceParent) const;
-
-    void forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight);
-    void makeRoomForRows(const QModelIndex& parent, int first, int last);
-    void dropRows(const QModelIndex& parent, int first, int last);
-    void forgetAll();
 
     QStringList m_keywords;
     QStringList m_foldedKeywords;
     bool m_keywordsHoldSeparator = false;
-    mutable std::vector<RowCache> m_rows;
-    QList<QMetaObject::Connection> m_sourceConnections;
+    mutable SourceRowCache<RowCache> m_rows;
 };

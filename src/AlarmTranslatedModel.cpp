@@ -34,17 +34,14 @@ const QString KEY_PUSH_ALL = QStringLiteral("pushAll");
 const QString IO_KIND_OUTPUT = QStringLiteral("DO");
 constexpr int IO_KIND_OUTPUT_NUMBER = 1;
 
-// A list stored under a role or inside one; anything else, a text included (which QVariant would split into
-// characters), reads as no list at all.
-QVariantList listOf(const QVariant& value)
-{
-    const int type = value.typeId();
-    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
-}
-
 bool isDisplayRole(int role)
 {
     return role >= AlarmModel::triggerSourceRole && role <= AlarmModel::actionTargetRole;
+}
+
+bool touchesDisplayRoles(const QList<int>& roles)
+{
+    return roles.isEmpty() || std::any_of(roles.cbegin(), roles.cend(), isDisplayRole);
 }
 
 // The trigger the row's single trigger-type string stands for: the last one of that type (the codec writes
@@ -114,24 +111,12 @@ AlarmTranslatedModel::~AlarmTranslatedModel() = default;
 
 void AlarmTranslatedModel::setSourceModel(QAbstractItemModel* newSourceModel)
 {
-    for (const QMetaObject::Connection& connection : std::as_const(m_sourceConnections))
-        disconnect(connection);
-    m_sourceConnections.clear();
-    m_rowTexts.clear();
-
-    // Connected before the base class connects its own forwarding, so the kept texts are already right when
+    // Followed before the base class connects its own forwarding, so the kept texts are already right when
     // the proxies above react to the forwarded signal and read the rows again.
-    if (newSourceModel) {
-        m_sourceConnections = {
-            connect(newSourceModel, &QAbstractItemModel::dataChanged, this, &AlarmTranslatedModel::forgetChangedRows),
-            connect(newSourceModel, &QAbstractItemModel::rowsInserted, this, &AlarmTranslatedModel::makeRoomForRows),
-            connect(newSourceModel, &QAbstractItemModel::rowsRemoved, this, &AlarmTranslatedModel::dropRows),
-            connect(newSourceModel, &QAbstractItemModel::rowsMoved, this, &AlarmTranslatedModel::forgetAll),
-            connect(newSourceModel, &QAbstractItemModel::layoutChanged, this, &AlarmTranslatedModel::forgetAll),
-            connect(newSourceModel, &QAbstractItemModel::modelAboutToBeReset, this, &AlarmTranslatedModel::forgetAll),
-            connect(newSourceModel, &QAbstractItemModel::modelReset, this, &AlarmTranslatedModel::forgetAll),
-        };
-    }
+    m_rowTexts.follow(this, newSourceModel, touchesDisplayRoles,
+                      [this](const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles) {
+                          announceTriggerTypeChange(topLeft, bottomRight, roles);
+                      });
     QIdentityProxyModel::setSourceModel(newSourceModel);
 }
 
@@ -141,22 +126,16 @@ QVariant AlarmTranslatedModel::data(const QModelIndex& index, int role) const
         return QIdentityProxyModel::data(index, role);
     const QModelIndex sourceIndex = mapToSource(index);
     // Only the alarm rows themselves are kept: the list is flat, anything else is built on each call.
-    if (sourceIndex.parent().isValid() || sourceIndex.column() != 0)
+    RowTexts* texts = sourceIndex.column() == 0 ? m_rowTexts.find(sourceIndex) : nullptr;
+    if (!texts)
         return buildDisplayValue(sourceIndex, role);
 
-    const size_t row = static_cast<size_t>(sourceIndex.row());
-    if (row >= m_rowTexts.size())
-        m_rowTexts.resize(static_cast<size_t>(sourceModel()->rowCount()));
-    if (row >= m_rowTexts.size())
-        return buildDisplayValue(sourceIndex, role);
-
-    RowTexts& texts = m_rowTexts[row];
     QVariant* kept = nullptr;
     switch (role) {
-    case AlarmModel::triggerSourceRole: kept = &texts.triggerSources; break;
-    case AlarmModel::triggerTypeRole: kept = &texts.triggerType; break;
-    case AlarmModel::actionTypeRole: kept = &texts.actionTypes; break;
-    default: kept = &texts.actionTargets; break;
+    case AlarmModel::triggerSourceRole: kept = &texts->triggerSources; break;
+    case AlarmModel::triggerTypeRole: kept = &texts->triggerType; break;
+    case AlarmModel::actionTypeRole: kept = &texts->actionTypes; break;
+    default: kept = &texts->actionTargets; break;
     }
     if (!kept->isValid())
         *kept = buildDisplayValue(sourceIndex, role);
@@ -461,7 +440,7 @@ QVariantMap AlarmTranslatedModel::actionTargetDisplay(const QVariantMap& target)
 bool AlarmTranslatedModel::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange && watched == QCoreApplication::instance()) {
-        forgetAll();
+        m_rowTexts.forgetAll();
         const int rows = rowCount();
         if (rows > 0) {
             emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1),
@@ -472,52 +451,14 @@ bool AlarmTranslatedModel::eventFilter(QObject* watched, QEvent* event)
     return QIdentityProxyModel::eventFilter(watched, event);
 }
 
-void AlarmTranslatedModel::forgetRows(const QModelIndex& parent, int first, int last)
+void AlarmTranslatedModel::announceTriggerTypeChange(const QModelIndex& topLeft, const QModelIndex& bottomRight,
+                                                     const QList<int>& roles)
 {
-    if (parent.isValid() || first < 0)
-        return;
-    const size_t end = std::min(m_rowTexts.size(), static_cast<size_t>(last) + 1);
-    for (size_t row = static_cast<size_t>(first); row < end; ++row)
-        m_rowTexts[row] = RowTexts();
-}
-
-void AlarmTranslatedModel::forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight,
-                                             const QList<int>& roles)
-{
-    const bool touchesTexts = roles.isEmpty() || std::any_of(roles.cbegin(), roles.cend(), isDisplayRole);
-    if (!touchesTexts || !topLeft.isValid() || !bottomRight.isValid())
-        return;
-    forgetRows(topLeft.parent(), topLeft.row(), bottomRight.row());
-
     // The trigger type text reads the trigger list too: a change of the list alone changes it.
-    if (roles.contains(AlarmModel::triggerSourceRole) && !roles.contains(AlarmModel::triggerTypeRole)) {
-        const QModelIndex first = mapFromSource(topLeft);
-        const QModelIndex last = mapFromSource(bottomRight);
-        if (first.isValid() && last.isValid())
-            emit dataChanged(first, last, {AlarmModel::triggerTypeRole});
-    }
-}
-
-void AlarmTranslatedModel::makeRoomForRows(const QModelIndex& parent, int first, int last)
-{
-    if (parent.isValid() || first < 0 || last < first)
+    if (!roles.contains(AlarmModel::triggerSourceRole) || roles.contains(AlarmModel::triggerTypeRole))
         return;
-    if (static_cast<size_t>(first) > m_rowTexts.size())
-        return; // beyond what was ever read: filled on demand
-    m_rowTexts.insert(m_rowTexts.begin() + first, static_cast<size_t>(last - first + 1), RowTexts());
-}
-
-void AlarmTranslatedModel::dropRows(const QModelIndex& parent, int first, int last)
-{
-    if (parent.isValid() || first < 0 || last < first)
-        return;
-    const size_t begin = std::min(m_rowTexts.size(), static_cast<size_t>(first));
-    const size_t end = std::min(m_rowTexts.size(), static_cast<size_t>(last) + 1);
-    m_rowTexts.erase(m_rowTexts.begin() + static_cast<std::ptrdiff_t>(begin),
-                     m_rowTexts.begin() + static_cast<std::ptrdiff_t>(end));
-}
-
-void AlarmTranslatedModel::forgetAll()
-{
-    m_rowTexts.clear();
+    const QModelIndex first = mapFromSource(topLeft);
+    const QModelIndex last = mapFromSource(bottomRight);
+    if (first.isValid() && last.isValid())
+        emit dataChanged(first, last, {AlarmModel::triggerTypeRole});
 }

@@ -2,12 +2,11 @@
 
 #include <QIdentityProxyModel>
 #include <QList>
-#include <QMetaObject>
 #include <QVariant>
 #include <QVariantList>
 #include <QVariantMap>
 
-#include <vector>
+#include "SourceRowCache.h"
 
 // Adds the display texts QML shows for the trigger and action roles; every other role passes through.
 // Raw server values stay in AlarmModel so that editing round-trips exactly.
@@ -50,12 +49,7 @@ private:
     QString triggerSourceDisplayValue(const QVariantMap& trigger) const;
     QVariantMap actionTargetDisplay(const QVariantMap& target) const;
 
-    void forgetRows(const QModelIndex& parent, int first, int last);
-    void forgetChangedRows(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles);
-    void makeRoomForRows(const QModelIndex& parent, int first, int last);
-    void dropRows(const QModelIndex& parent, int first, int last);
-    void forgetAll();
+    void announceTriggerTypeChange(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles);
 
-    mutable std::vector<RowTexts> m_rowTexts;
-    QList<QMetaObject::Connection> m_sourceConnections;
+    mutable SourceRowCache<RowTexts> m_rowTexts;
 };
