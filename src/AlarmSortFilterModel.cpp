@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "AlarmDisplayTexts.h"
 #include "AlarmModel.h"
 
 namespace {

@@ -1,38 +1,14 @@
 #include "AlarmTranslatedModel.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 #include <QCoreApplication>
 #include <QEvent>
 
+#include "AlarmDisplayTexts.h"
 #include "AlarmModel.h"
-#include "stdafx.h"
-
-using namespace ActionParserCommon;
 
 namespace {
-
-// Keys of the trigger maps the trigger codec builds and of the action target maps the action codecs build.
-const QString KEY_DEV_NAME = QStringLiteral("devName");
-const QString KEY_TRIGGER = QStringLiteral("trigger");
-const QString KEY_INDEX = QStringLiteral("index");
-const QString KEY_VALUE = QStringLiteral("value");
-const QString KEY_DIO_TYPE = QStringLiteral("typeDIO");
-const QString KEY_DISPLAY_VALUE = QStringLiteral("displayValue");
-const QString KEY_ACTION_TYPE = QStringLiteral("actionType");
-const QString KEY_ACTION_TARGET = QStringLiteral("actionTarget");
-const QString KEY_TARGET = QStringLiteral("target");
-const QString KEY_ACTION = QStringLiteral("action");
-const QString KEY_CC = QStringLiteral("cc");
-const QString KEY_POST = QStringLiteral("post");
-const QString KEY_IO_INDEX = QStringLiteral("ioIndex");
-const QString KEY_INCLUDE_TRIGGER_CAM = QStringLiteral("includeTriggerCam");
-const QString KEY_PUSH_ALL = QStringLiteral("pushAll");
-
-// The output kind of "typeDIO"; every other kind is an input.
-const QString IO_KIND_OUTPUT = QStringLiteral("DO");
-constexpr int IO_KIND_OUTPUT_NUMBER = 1;
 
 bool isDisplayRole(int role)
 {
@@ -42,58 +18,6 @@ bool isDisplayRole(int role)
 bool touchesDisplayRoles(const QList<int>& roles)
 {
     return roles.isEmpty() || std::any_of(roles.cbegin(), roles.cend(), isDisplayRole);
-}
-
-// The trigger the row's single trigger-type string stands for: the last one of that type (the codec writes
-// the type of the last trigger), or simply the last one when none carries the type.
-QVariantMap triggerOfType(const QString& type, const QVariantList& sourceList)
-{
-    for (auto it = sourceList.crbegin(); it != sourceList.crend(); ++it) {
-        const QVariantMap trigger = it->toMap();
-        if (trigger.value(KEY_TRIGGER).toString() == type)
-            return trigger;
-    }
-    return sourceList.isEmpty() ? QVariantMap() : sourceList.constLast().toMap();
-}
-
-bool isOutput(const QVariantMap& trigger)
-{
-    const QVariant kind = trigger.value(KEY_DIO_TYPE);
-    return kind.toString() == IO_KIND_OUTPUT || (kind.toInt() == IO_KIND_OUTPUT_NUMBER);
-}
-
-bool isNumber(const QString& text)
-{
-    bool isInt = false;
-    text.toInt(&isInt);
-    return isInt;
-}
-
-// "%1 %2" with whichever of the two parts is there.
-QString joinedParts(const QString& first, const QString& second)
-{
-    if (first.isEmpty())
-        return second;
-    if (second.isEmpty())
-        return first;
-    return QObject::tr("%1 %2").arg(first, second);
-}
-
-// Which value word means which state, per value-dependent trigger type: {word, text} pairs; a value in none
-// of the pairs gives no text, so the raw type is shown rather than a guess.
-struct ValueText
-{
-    const char* value;
-    const char* text;
-};
-
-QString textForValue(const QString& value, std::initializer_list<ValueText> table)
-{
-    for (const ValueText& entry : table) {
-        if (value == QLatin1String(entry.value))
-            return QObject::tr(entry.text);
-    }
-    return {};
 }
 
 } // namespace
@@ -146,295 +70,51 @@ QVariant AlarmTranslatedModel::buildDisplayValue(const QModelIndex& sourceIndex,
 {
     switch (role) {
     case AlarmModel::triggerSourceRole:
-        return translatedTriggerSourceType(listOf(sourceIndex.data(AlarmModel::triggerSourceRole)));
+        return AlarmDisplayTexts::translatedTriggerSourceType(listOf(sourceIndex.data(AlarmModel::triggerSourceRole)));
     case AlarmModel::triggerTypeRole:
-        return triggerTypeText(sourceIndex.data(AlarmModel::triggerTypeRole).toString(),
-                               listOf(sourceIndex.data(AlarmModel::triggerSourceRole)));
+        return AlarmDisplayTexts::triggerTypeText(sourceIndex.data(AlarmModel::triggerTypeRole).toString(),
+                                                  listOf(sourceIndex.data(AlarmModel::triggerSourceRole)));
     case AlarmModel::actionTypeRole:
-        return translatedActionType(listOf(sourceIndex.data(AlarmModel::actionTypeRole)));
+        return AlarmDisplayTexts::translatedActionType(listOf(sourceIndex.data(AlarmModel::actionTypeRole)));
     default:
-        return translatedActionTarget(listOf(sourceIndex.data(AlarmModel::actionTargetRole)));
+        return AlarmDisplayTexts::translatedActionTarget(listOf(sourceIndex.data(AlarmModel::actionTargetRole)));
     }
-}
-
-QString AlarmTranslatedModel::triggerTypeText(const QString& type, const QVariantList& sourceList) const
-{
-    const QString byValue = translatedTriggerTypeWithSourceValue(type, sourceList);
-    if (!byValue.isEmpty())
-        return byValue;
-    if (isIOBoxTriggerType(type))
-        return translatedTriggerTypeWithIOBox(sourceList);
-    return translatedTriggerType(type);
 }
 
 QString AlarmTranslatedModel::translatedTriggerType(const QString& type) const
 {
-    // First match wins; "ExtDataMagnet" and "ExtAccessRule" share their text on purpose.
-    static const QList<QPair<QString, const char*>> table = {
-        {QStringLiteral("Motion"), QT_TRANSLATE_NOOP("QObject", "Motion detection")},
-        {QStringLiteral("DI"), QT_TRANSLATE_NOOP("QObject", "Camera DI")},
-        {QStringLiteral("DO"), QT_TRANSLATE_NOOP("QObject", "Camera DO")},
-        {QStringLiteral("VideoLoss"), QT_TRANSLATE_NOOP("QObject", "Video loss")},
-        {QStringLiteral("VideoRestore"), QT_TRANSLATE_NOOP("QObject", "Video restore")},
-        {QStringLiteral("PIR"), QT_TRANSLATE_NOOP("QObject", "PIR (Passive infrared)")},
-        {QStringLiteral("Tampering"), QT_TRANSLATE_NOOP("QObject", "Tampering detection")},
-        {QStringLiteral("Temperature"), QT_TRANSLATE_NOOP("QObject", "Temperature")},
-        {QStringLiteral("IR"), QT_TRANSLATE_NOOP("QObject", "IR (Infrared)")},
-        {QStringLiteral("SmartSD"), QT_TRANSLATE_NOOP("QObject", "SD card life expectancy detection")},
-        {QStringLiteral("AudioDetection"), QT_TRANSLATE_NOOP("QObject", "Audio detection")},
-        {QStringLiteral("ShockDetection"), QT_TRANSLATE_NOOP("QObject", "Shock detection")},
-        {QStringLiteral("LineDetection"), QT_TRANSLATE_NOOP("QObject", "Line crossing detection")},
-        {QStringLiteral("FieldDetection"), QT_TRANSLATE_NOOP("QObject", "Intrusion detection")},
-        {QStringLiteral("Loitering"), QT_TRANSLATE_NOOP("QObject", "Loitering detection")},
-        {QStringLiteral("AbandonObject"), QT_TRANSLATE_NOOP("QObject", "Unattended object detection")},
-        {QStringLiteral("FaceDetection"), QT_TRANSLATE_NOOP("QObject", "Face detection")},
-        {QStringLiteral("ZoneDetection"), QT_TRANSLATE_NOOP("QObject", "Zone detection")},
-        {QStringLiteral("MissingObject"), QT_TRANSLATE_NOOP("QObject", "Missing object detection")},
-        {QStringLiteral("CrowdDetection"), QT_TRANSLATE_NOOP("QObject", "Crowd detection")},
-        {QStringLiteral("CyberAttack"), QT_TRANSLATE_NOOP("QObject", "Cyber attack")},
-        {QStringLiteral("SmartTracking"), QT_TRANSLATE_NOOP("QObject", "Smart tracking")},
-        {QStringLiteral("ParkingViolationDetection"), QT_TRANSLATE_NOOP("QObject", "Parking violation detection")},
-        {QStringLiteral("VirtualTrigger"), QT_TRANSLATE_NOOP("QObject", "Virtual trigger")},
-        {QStringLiteral("ThermalIntrusion"), QT_TRANSLATE_NOOP("QObject", "Intrusion")},
-        {QStringLiteral("ThermalMultiLoitering"), QT_TRANSLATE_NOOP("QObject", "Multi-loitering")},
-        {QStringLiteral("FireSpotDetection"), QT_TRANSLATE_NOOP("QObject", "Fire spot detection")},
-        {QStringLiteral("SmokerDetection"), QT_TRANSLATE_NOOP("QObject", "Smoker detection")},
-        {QStringLiteral("SmokeAndFlameDetection"), QT_TRANSLATE_NOOP("QObject", "Smoke and flame detection")},
-        {QStringLiteral("TemperatureThresholdWarning"), QT_TRANSLATE_NOOP("QObject", "Temperature threshold warning")},
-        {QStringLiteral("TemperatureThresholdAlarm"), QT_TRANSLATE_NOOP("QObject", "Temperature threshold alarm")},
-        {QStringLiteral("TemperatureDifferenceWarning"), QT_TRANSLATE_NOOP("QObject", "Temperature difference warning")},
-        {QStringLiteral("TemperatureDifferenceAlarm"), QT_TRANSLATE_NOOP("QObject", "Temperature difference alarm")},
-        {QStringLiteral("TemperatureRiseWarning"), QT_TRANSLATE_NOOP("QObject", "Temperature rise warning")},
-        {QStringLiteral("TemperatureRiseAlarm"), QT_TRANSLATE_NOOP("QObject", "Temperature rise alarm")},
-        {QStringLiteral("TemperatureSectionAlarm"), QT_TRANSLATE_NOOP("QObject", "Temperature section alarm")},
-        {QStringLiteral("PPTZTrigger"), QT_TRANSLATE_NOOP("QObject", "PPTZ")},
-        {QStringLiteral("RecErr"), QT_TRANSLATE_NOOP("QObject", "Recording error")},
-        {QStringLiteral("ExtTCPMessage"), QT_TRANSLATE_NOOP("QObject", "TCP message")},
-        {QStringLiteral("ExtDataMagnet"), QT_TRANSLATE_NOOP("QObject", "Data magnet")},
-        {QStringLiteral("ExtAccessRule"), QT_TRANSLATE_NOOP("QObject", "Data magnet")},
-        {QStringLiteral("GpsSpeed"), QT_TRANSLATE_NOOP("QObject", "Speeding")},
-        {QStringLiteral("SysVcaAreaReport"), QT_TRANSLATE_NOOP("QObject", "Number of remaining people")},
-        {QStringLiteral("BruteForceAttack"), QT_TRANSLATE_NOOP("QObject", "Brute force attack")},
-        {QStringLiteral("QuarantineEvent"), QT_TRANSLATE_NOOP("QObject", "Quarantine event")},
-        {QStringLiteral("RunningDetection"), QT_TRANSLATE_NOOP("QObject", "People running detection")},
-        {QStringLiteral("RestrictedZoneDetection"), QT_TRANSLATE_NOOP("QObject", "Restricted zone detection")},
-        {QStringLiteral("Guardian"), QT_TRANSLATE_NOOP("QObject", "List management")},
-    };
-    for (const auto& entry : table) {
-        if (entry.first == type)
-            return QObject::tr(entry.second);
-    }
-    return type;
+    return AlarmDisplayTexts::translatedTriggerType(type);
 }
 
 bool AlarmTranslatedModel::isIOBoxTriggerType(const QString& type) const
 {
-    return type == QLatin1String("ExtIODevice") || type == QLatin1String("DIOStatus");
+    return AlarmDisplayTexts::isIOBoxTriggerType(type);
 }
 
 QString AlarmTranslatedModel::translatedTriggerTypeWithIOBox(const QVariantList& sourceList) const
 {
-    QVariantMap trigger = triggerOfType(QStringLiteral("ExtIODevice"), sourceList);
-    if (!trigger.contains(KEY_DIO_TYPE))
-        trigger = triggerOfType(QStringLiteral("DIOStatus"), sourceList);
-    return isOutput(trigger) ? QObject::tr("DI/DO Device DO") : QObject::tr("DI/DO Device DI");
+    return AlarmDisplayTexts::translatedTriggerTypeWithIOBox(sourceList);
 }
 
 QString AlarmTranslatedModel::translatedTriggerTypeWithSourceValue(const QString& type,
                                                                    const QVariantList& sourceList) const
 {
-    // Texts that hold whatever the value says.
-    if (type == QLatin1String("Gsensor"))
-        return QObject::tr("Abnormal G-sensor motion (Mobile NVR)");
-    if (type == QLatin1String("GpsConn"))
-        return QObject::tr("GPS disconnected");
-    if (type == QLatin1String("GpsSpeed"))
-        return QObject::tr("Speeding");
-
-    const QString value = triggerOfType(type, sourceList).value(KEY_VALUE).toString();
-    if (type == QLatin1String("VideoLossRestore")) {
-        // The camera codec carries the numeric "Type" of the video-loss element; the words are accepted too.
-        return textForValue(value, {{"0", QT_TRANSLATE_NOOP("QObject", "Video loss")},
-                                    {"Loss", QT_TRANSLATE_NOOP("QObject", "Video loss")},
-                                    {"1", QT_TRANSLATE_NOOP("QObject", "Video restore")},
-                                    {"Restore", QT_TRANSLATE_NOOP("QObject", "Video restore")}});
-    }
-    if (type == QLatin1String("CamConn")) {
-        return textForValue(value, {{"Connected", QT_TRANSLATE_NOOP("QObject", "Camera connected")},
-                                    {"Lost", QT_TRANSLATE_NOOP("QObject", "Camera disconnected")}});
-    }
-    if (type == QLatin1String("RecStatus")) {
-        return textForValue(value, {{"Start", QT_TRANSLATE_NOOP("QObject", "Start recording")},
-                                    {"Stop", QT_TRANSLATE_NOOP("QObject", "Stop recording")}});
-    }
-    if (type == QLatin1String("StationConn") || type == QLatin1String("SysNetwork")) {
-        // A link is either up or down: only "Down" means disconnected.
-        return value == QLatin1String("Down") ? QObject::tr("Network disconnected") : QObject::tr("Network connected");
-    }
-    if (type == QLatin1String("FanStatus")) {
-        return textForValue(value, {{"Fine", QT_TRANSLATE_NOOP("QObject", "Fan resumes operation")},
-                                    {"Error", QT_TRANSLATE_NOOP("QObject", "Fan error")}});
-    }
-    if (type == QLatin1String("StorageConn")) {
-        return textForValue(value, {{"Available", QT_TRANSLATE_NOOP("QObject", "Storage ready")},
-                                    {"Unavailable", QT_TRANSLATE_NOOP("QObject", "Storage failure")}});
-    }
-    if (type == QLatin1String("StorageCapacity")) {
-        return textForValue(value, {{"Healthy", QT_TRANSLATE_NOOP("QObject", "Storage space available")},
-                                    {"Exhausted", QT_TRANSLATE_NOOP("QObject", "Storage full")}});
-    }
-    if (type == QLatin1String("SysLicense")) {
-        return textForValue(value, {{"Ready", QT_TRANSLATE_NOOP("QObject", "License ready")},
-                                    {"TrialExpired", QT_TRANSLATE_NOOP("QObject", "Trial expired")},
-                                    {"DongleLost", QT_TRANSLATE_NOOP("QObject", "Dongle lost")}});
-    }
-    if (type == QLatin1String("SysVirMem")) {
-        // Same words as the storage capacity report, plus the plain ones.
-        return textForValue(value, {{"Healthy", QT_TRANSLATE_NOOP("QObject", "Virtual memory available")},
-                                    {"Available", QT_TRANSLATE_NOOP("QObject", "Virtual memory available")},
-                                    {"Exhausted", QT_TRANSLATE_NOOP("QObject", "Low virtual memory")},
-                                    {"Low", QT_TRANSLATE_NOOP("QObject", "Low virtual memory")}});
-    }
-    if (type == QLatin1String("FailoverState")) {
-        return textForValue(value, {{"Running", QT_TRANSLATE_NOOP("QObject", "Failover server running")},
-                                    {"Standby", QT_TRANSLATE_NOOP("QObject", "Failover server on standby")}});
-    }
-    return {};
+    return AlarmDisplayTexts::translatedTriggerTypeWithSourceValue(type, sourceList);
 }
 
 QVariantList AlarmTranslatedModel::translatedTriggerSourceType(const QVariantList& sourceList) const
 {
-    QVariantList display;
-    display.reserve(sourceList.size());
-    for (const QVariant& source : sourceList) {
-        const QVariantMap trigger = source.toMap();
-        display.append(QVariantMap{{KEY_DEV_NAME, trigger.value(KEY_DEV_NAME).toString()},
-                                   {KEY_DISPLAY_VALUE, triggerSourceDisplayValue(trigger)}});
-    }
-    return display;
-}
-
-QString AlarmTranslatedModel::triggerSourceDisplayValue(const QVariantMap& trigger) const
-{
-    QString type = trigger.value(KEY_TRIGGER).toString();
-    const QString index = trigger.value(KEY_INDEX).toString();
-    const QString value = trigger.value(KEY_VALUE).toString();
-
-    if (type == QLatin1String("DI"))
-        return QObject::tr("DI-%1").arg(index);
-    if (type == QLatin1String("DO"))
-        return QObject::tr("DO-%1").arg(index);
-    if (type == QLatin1String("Motion"))
-        return QObject::tr("Window %1").arg(index);
-    // The VCA and thermal codecs carry the rule kind in "index", a trigger type word of its own.
-    if (type == QLatin1String("VCA"))
-        return QObject::tr("VCA-%1").arg(translatedTriggerType(index));
-    if (type == QLatin1String("Thermal"))
-        return joinedParts(translatedTriggerType(index), value);
-    if (isIOBoxTriggerType(type)) {
-        // A numbered input or output reads like the camera's own; a named one keeps its name.
-        if (!isNumber(index))
-            return index.isEmpty() ? value : index;
-        return (isOutput(trigger) ? QObject::tr("DO-%1") : QObject::tr("DI-%1")).arg(index);
-    }
-
-    // Status triggers show their state in words; the position-tracking ones come written both ways.
-    if (type == QLatin1String("GPSConn"))
-        type = QStringLiteral("GpsConn");
-    else if (type == QLatin1String("GPSSpeed"))
-        type = QStringLiteral("GpsSpeed");
-    const QString state = translatedTriggerTypeWithSourceValue(type, {trigger});
-    if (!state.isEmpty())
-        return state;
-    return joinedParts(index, value);
+    return AlarmDisplayTexts::translatedTriggerSourceType(sourceList);
 }
 
 QVariantList AlarmTranslatedModel::translatedActionType(const QVariantList& typeList) const
 {
-    static const QList<QPair<QString, const char*>> table = {
-        {ACTION_TYPE_SENDMAIL, QT_TRANSLATE_NOOP("QObject", "Email")},
-        {ACTION_TYPE_SMS, QT_TRANSLATE_NOOP("QObject", "GSM short message")},
-        {ACTION_TYPE_FTP, QT_TRANSLATE_NOOP("QObject", "FTP")},
-        {ACTION_TYPE_HTTP, QT_TRANSLATE_NOOP("QObject", "Send HTTP requests")},
-        {ACTION_TYPE_RECORDING, QT_TRANSLATE_NOOP("QObject", "Start to record videos")},
-        {ACTION_TYPE_PRESET, QT_TRANSLATE_NOOP("QObject", "Go to camera presets")},
-        {ACTION_TYPE_SETDO, QT_TRANSLATE_NOOP("QObject", "Set DO status")},
-        {ACTION_TYPE_LAUNCH_PROGRAM, QT_TRANSLATE_NOOP("QObject", "Launch program")},
-        {ACTION_TYPE_CLIENTNOTIFY_GOTO_LIVESTREAM, QT_TRANSLATE_NOOP("QObject", "Send live streaming")},
-        {ACTION_TYPE_CLIENTNOTIFY_GOTO_EMAP, QT_TRANSLATE_NOOP("QObject", "Go to E-Map")},
-        {ACTION_TYPE_CLIENTNOTIFY_SOUND_THE_ALARM, QT_TRANSLATE_NOOP("QObject", "Sound the alarm")},
-        {ACTION_TYPE_ADDBOOKMARK, QT_TRANSLATE_NOOP("QObject", "Add bookmark")},
-        {ACTION_TYPE_PLAYIPAUDIO, QT_TRANSLATE_NOOP("QObject", "Play audio file with network audio device")},
-        {ACTION_TYPE_MOBILENOTIFICATION, QT_TRANSLATE_NOOP("QObject", "Send notification to mobile device")},
-    };
-    QVariantList display;
-    display.reserve(typeList.size());
-    for (const QVariant& element : typeList) {
-        // Whole action models are accepted as well as their type strings.
-        const QString type = element.typeId() == QMetaType::QVariantMap ? element.toMap().value(KEY_ACTION_TYPE).toString()
-                                                                        : element.toString();
-        QString text = type; // an action type of a newer server is shown as it is called
-        for (const auto& entry : table) {
-            if (entry.first == type) {
-                text = QObject::tr(entry.second);
-                break;
-            }
-        }
-        display.append(text);
-    }
-    return display;
+    return AlarmDisplayTexts::translatedActionType(typeList);
 }
 
 QVariantList AlarmTranslatedModel::translatedActionTarget(const QVariantList& targetList) const
 {
-    QVariantList display;
-    display.reserve(targetList.size());
-    for (const QVariant& element : targetList) {
-        const QVariantList targets = element.typeId() == QMetaType::QVariantMap
-                                         ? listOf(element.toMap().value(KEY_ACTION_TARGET))
-                                         : listOf(element);
-        QVariantList actionDisplay;
-        actionDisplay.reserve(targets.size());
-        for (const QVariant& target : targets)
-            actionDisplay.append(actionTargetDisplay(target.toMap()));
-        display.append(QVariant(actionDisplay));
-    }
-    return display;
-}
-
-QVariantMap AlarmTranslatedModel::actionTargetDisplay(const QVariantMap& target) const
-{
-    // The kind of action is read from the target's own keys, so the texts stay right even if the type list
-    // beside it were out of step.
-    QString targetText = target.value(KEY_TARGET).toString();
-    QString actionText = target.value(KEY_ACTION).toString();
-
-    if (target.contains(KEY_CC)) {
-        // Mail: recipients and copies.
-        const QString cc = target.value(KEY_CC).toString();
-        targetText = QObject::tr("To: %1").arg(targetText);
-        actionText = cc.isEmpty() ? QString() : QObject::tr("Cc: %1").arg(cc);
-    } else if (actionText == ACTION_TYPE_SETDO) {
-        QString output = target.value(KEY_INDEX).toString();
-        if (output.isEmpty())
-            output = QObject::tr("DO-%1").arg(target.value(KEY_IO_INDEX).toInt());
-        const QString value = target.value(KEY_VALUE).toString();
-        if (value == QLatin1String("1") || value == QLatin1String("Trigger"))
-            actionText = QObject::tr("Set %1 to Trigger").arg(output);
-        else if (value == QLatin1String("0") || value == QLatin1String("Normal"))
-            actionText = QObject::tr("Set %1 to Normal").arg(output);
-        else
-            actionText = QObject::tr("Set %1 to %2").arg(output, value);
-    } else if (target.contains(KEY_POST)) {
-        // HTTP: the method label was written in English by the decoder.
-        targetText = target.value(KEY_POST).toBool() ? QObject::tr("POST Method") : QObject::tr("GET Method");
-    } else if (target.value(KEY_INCLUDE_TRIGGER_CAM).toBool()) {
-        // Decoded under the language of that moment; shown in the current one.
-        targetText = QObject::tr("Event triggering camera");
-    } else if (target.value(KEY_PUSH_ALL).toBool()) {
-        targetText = QObject::tr("All roles");
-    }
-    return QVariantMap{{KEY_TARGET, targetText}, {KEY_ACTION, actionText}};
+    return AlarmDisplayTexts::translatedActionTarget(targetList);
 }
 
 bool AlarmTranslatedModel::eventFilter(QObject* watched, QEvent* event)

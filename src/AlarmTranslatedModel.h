@@ -4,12 +4,11 @@
 #include <QList>
 #include <QVariant>
 #include <QVariantList>
-#include <QVariantMap>
 
 #include "SourceRowCache.h"
 
-// Adds the display texts QML shows for the trigger and action roles; every other role passes through.
-// Raw server values stay in AlarmModel so that editing round-trips exactly.
+// Adds the display texts QML shows for the trigger and action roles (written in AlarmDisplayTexts); every
+// other role passes through. Raw server values stay in AlarmModel so that editing round-trips exactly.
 // The texts are built once per row and kept until the row, the rows around it or the UI language change,
 // because the filter proxy above reads them for every row on every keystroke and every comparison.
 class AlarmTranslatedModel : public QIdentityProxyModel
@@ -45,9 +44,6 @@ private:
     };
 
     QVariant buildDisplayValue(const QModelIndex& sourceIndex, int role) const;
-    QString triggerTypeText(const QString& type, const QVariantList& sourceList) const;
-    QString triggerSourceDisplayValue(const QVariantMap& trigger) const;
-    QVariantMap actionTargetDisplay(const QVariantMap& target) const;
 
     void announceTriggerTypeChange(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles);
 

@@ -3,20 +3,10 @@
 #include <QAbstractItemModel>
 #include <QList>
 #include <QMetaObject>
-#include <QVariant>
-#include <QVariantList>
 
 #include <algorithm>
 #include <functional>
 #include <vector>
-
-// A list stored under a role or inside one; anything else, a text included (which QVariant would split into
-// characters), reads as no list at all.
-inline QVariantList listOf(const QVariant& value)
-{
-    const int type = value.typeId();
-    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
-}
 
 // What a proxy keeps per top-level row of its source (texts, sort keys), following the source's row changes:
 // inserted rows get an empty entry, removed ones take theirs along, changed rows are forgotten, and moves,

@@ -4,12 +4,12 @@
 <context>
     <name>QObject</name>
     <message>
-        <location filename="../src/AlarmTranslatedModel.cpp" line="+84"/>
+        <location filename="../src/AlarmDisplayTexts.cpp" line="+67"/>
         <source>%1 %2</source>
         <translation>%1 %2</translation>
     </message>
     <message>
-        <location line="+113"/>
+        <location line="+38"/>
         <source>Motion detection</source>
         <translation>Bewegungserkennung</translation>
     </message>
@@ -25,20 +25,20 @@
     </message>
     <message>
         <location line="+1"/>
-        <location line="+80"/>
+        <location line="+79"/>
         <location line="+1"/>
         <source>Video loss</source>
         <translation>Videoverlust</translation>
     </message>
     <message>
-        <location line="-80"/>
-        <location line="+81"/>
+        <location line="-79"/>
+        <location line="+80"/>
         <location line="+1"/>
         <source>Video restore</source>
         <translation>Video wiederhergestellt</translation>
     </message>
     <message>
-        <location line="-81"/>
+        <location line="-80"/>
         <source>PIR (Passive infrared)</source>
         <translation>PIR (Passiv-Infrarot)</translation>
     </message>
@@ -215,12 +215,12 @@
     </message>
     <message>
         <location line="+1"/>
-        <location line="+37"/>
+        <location line="+36"/>
         <source>Speeding</source>
         <translation>Geschwindigkeitsüberschreitung</translation>
     </message>
     <message>
-        <location line="-36"/>
+        <location line="-35"/>
         <source>Number of remaining people</source>
         <translation>Anzahl verbleibender Personen</translation>
     </message>
@@ -260,7 +260,7 @@
         <translation>DI/DO-Gerät DI</translation>
     </message>
     <message>
-        <location line="+8"/>
+        <location line="+7"/>
         <source>Abnormal G-sensor motion (Mobile NVR)</source>
         <translation>Ungewöhnliche Bewegung am G-Sensor (mobiler NVR)</translation>
     </message>
@@ -367,7 +367,7 @@
         <translation>Failover-Server in Bereitschaft</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+14"/>
         <location line="+14"/>
         <source>DI-%1</source>
         <translation>DI-%1</translation>
@@ -375,12 +375,12 @@
     <message>
         <location line="-12"/>
         <location line="+12"/>
-        <location line="+82"/>
+        <location line="+81"/>
         <source>DO-%1</source>
         <translation>DO-%1</translation>
     </message>
     <message>
-        <location line="-92"/>
+        <location line="-91"/>
         <source>Window %1</source>
         <translation>Fenster %1</translation>
     </message>
@@ -390,7 +390,7 @@
         <translation>VCA-%1</translation>
     </message>
     <message>
-        <location line="+24"/>
+        <location line="+38"/>
         <source>Email</source>
         <translation>E-Mail</translation>
     </message>
@@ -460,7 +460,7 @@
         <translation>Benachrichtigung an Mobilgerät senden</translation>
     </message>
     <message>
-        <location line="+47"/>
+        <location line="+32"/>
         <source>To: %1</source>
         <translation>An: %1</translation>
     </message>
@@ -496,13 +496,13 @@
     </message>
     <message>
         <location filename="../src/AlarmActionParser.cpp" line="+142"/>
-        <location filename="../src/AlarmTranslatedModel.cpp" line="+3"/>
+        <location filename="../src/AlarmDisplayTexts.cpp" line="+3"/>
         <source>Event triggering camera</source>
         <translation>Ereignisauslösende Kamera</translation>
     </message>
     <message>
         <location line="+362"/>
-        <location filename="../src/AlarmTranslatedModel.cpp" line="+2"/>
+        <location filename="../src/AlarmDisplayTexts.cpp" line="+2"/>
         <source>All roles</source>
         <translation>Alle Rollen</translation>
     </message>
