@@ -1,12 +1,14 @@
 #include "AlarmActionParser.h"
 
 #include "PluginAlarmManager.h"
+#include "VariantTree.h"
 #include "stdafx.h"
 
 #include <QObject>
 #include <QStringList>
 
 using namespace ActionParserCommon;
+using namespace VariantTree;
 
 namespace {
 
@@ -46,29 +48,6 @@ const QString KEY_TARGET_NAME = QStringLiteral("target");
 const QString KEY_TARGET_ACTION = QStringLiteral("action");
 const QString KEY_CAMERA_ID = QStringLiteral("camId");
 
-bool isList(const QVariant& value)
-{
-    return value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList;
-}
-
-bool isContainer(const QVariant& value)
-{
-    return isList(value) || value.typeId() == QMetaType::QVariantMap || value.typeId() == QMetaType::QVariantHash;
-}
-
-// A leaf read as text. QVariant would turn a one-element string list into its element; a repeated or
-// structured element where a leaf belongs is malformed and reads as empty instead.
-QString textOf(const QVariant& value)
-{
-    return isContainer(value) ? QString() : value.toString();
-}
-
-// One child of an element map, or one key of a target map, as text.
-QString fieldOf(const QVariantMap& map, const QString& key)
-{
-    return textOf(map.value(key));
-}
-
 // Base 10, 0 for anything that is not a 32-bit number (QVariant::toInt would wrap larger values).
 int integerOf(const QVariant& value)
 {
@@ -77,42 +56,15 @@ int integerOf(const QVariant& value)
 
 bool booleanOf(const QVariant& value)
 {
-    return !isContainer(value) && value.toBool();
-}
-
-// The children of an element map; a text or list where the element belongs reads as no children.
-QVariantMap childrenOf(const QVariant& element)
-{
-    return element.typeId() == QMetaType::QVariantMap || element.typeId() == QMetaType::QVariantHash
-               ? element.toMap()
-               : QVariantMap();
-}
-
-// The type element of an <Action>, e.g. the map under "SendMail".
-QVariantMap typeElementOf(const QVariant& action, const QString& typeName)
-{
-    return childrenOf(childrenOf(action).value(typeName));
-}
-
-// A target list as the editor hands it; anything but a list has no targets (QVariant would split a
-// string into characters).
-QVariantList targetListOf(const QVariant& actionTarget)
-{
-    return isList(actionTarget) ? actionTarget.toList() : QVariantList();
+    return !isMap(value) && !isList(value) && value.toBool();
 }
 
 // The single target of the mail, SMS and HTTP actions. The editor always hands one; an empty list is
 // encoded like a target with every field empty rather than read out of bounds.
 QVariantMap firstTargetOf(const QVariant& actionTarget)
 {
-    const QVariantList targets = targetListOf(actionTarget);
-    return targets.isEmpty() ? QVariantMap() : childrenOf(targets.first());
-}
-
-// An element that may carry attributes: its "#text" when it does, the element itself when it is text.
-QString elementTextOf(const QVariant& element)
-{
-    return element.canConvert<QVariantMap>() ? fieldOf(element.toMap(), QStringLiteral("#text")) : textOf(element);
+    const QVariantList targets = listOf(actionTarget);
+    return targets.isEmpty() ? QVariantMap() : mapOf(targets.first());
 }
 
 QVariantMap actionModel(const QString& actionType, const QVariantList& targets)
@@ -165,16 +117,16 @@ IActionParser::~IActionParser() = default;
 
 QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    const QVariantMap mail = typeElementOf(action, ACTION_TYPE_SENDMAIL);
-    const QVariantMap snapshotCameras = childrenOf(mail.value(QStringLiteral("SnapshotCameraList")));
+    const QVariantMap mail = mapAt(action, {ACTION_TYPE_SENDMAIL});
+    const QVariantMap snapshotCameras = mapAt(mail, {QStringLiteral("SnapshotCameraList")});
     const QVariantMap target{
-        {KEY_TARGET_NAME, fieldOf(mail, QStringLiteral("To"))},
+        {KEY_TARGET_NAME, textAt(mail, {QStringLiteral("To")})},
         {KEY_TARGET_ACTION, QString()},
-        {QStringLiteral("senderName"), fieldOf(mail, QStringLiteral("SenderName"))},
-        {QStringLiteral("from"), fieldOf(mail, QStringLiteral("From"))},
-        {QStringLiteral("cc"), fieldOf(mail, QStringLiteral("Cc"))},
-        {QStringLiteral("subject"), fieldOf(mail, QStringLiteral("Subject"))},
-        {QStringLiteral("content"), fieldOf(mail, QStringLiteral("MailContent"))},
+        {QStringLiteral("senderName"), textAt(mail, {QStringLiteral("SenderName")})},
+        {QStringLiteral("from"), textAt(mail, {QStringLiteral("From")})},
+        {QStringLiteral("cc"), textAt(mail, {QStringLiteral("Cc")})},
+        {QStringLiteral("subject"), textAt(mail, {QStringLiteral("Subject")})},
+        {QStringLiteral("content"), textAt(mail, {QStringLiteral("MailContent")})},
         {QStringLiteral("snapshotCameraList"), transContentAsList(snapshotCameras.value(QStringLiteral("Camera")))},
     };
     return actionModel(ACTION_TYPE_SENDMAIL, {target});
@@ -183,21 +135,21 @@ QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant& a
 QString SendMailActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_SENDMAIL_MSG.arg(fieldOf(target, QStringLiteral("senderName")))
-        .arg(fieldOf(target, QStringLiteral("from")))
-        .arg(fieldOf(target, KEY_TARGET_NAME))
-        .arg(fieldOf(target, QStringLiteral("cc")))
-        .arg(fieldOf(target, QStringLiteral("subject")))
-        .arg(fieldOf(target, QStringLiteral("content")));
+    return ACTION_SENDMAIL_MSG.arg(textAt(target, {QStringLiteral("senderName")}))
+        .arg(textAt(target, {QStringLiteral("from")}))
+        .arg(textAt(target, {KEY_TARGET_NAME}))
+        .arg(textAt(target, {QStringLiteral("cc")}))
+        .arg(textAt(target, {QStringLiteral("subject")}))
+        .arg(textAt(target, {QStringLiteral("content")}));
 }
 
 QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    const QVariantMap sms = typeElementOf(action, ACTION_TYPE_SMS);
+    const QVariantMap sms = mapAt(action, {ACTION_TYPE_SMS});
     const QVariantMap target{
-        {KEY_TARGET_NAME, fieldOf(sms, QStringLiteral("PhoneNum"))},
+        {KEY_TARGET_NAME, textAt(sms, {QStringLiteral("PhoneNum")})},
         {KEY_TARGET_ACTION, QString()},
-        {QStringLiteral("message"), fieldOf(sms, QStringLiteral("Message"))},
+        {QStringLiteral("message"), textAt(sms, {QStringLiteral("Message")})},
     };
     return actionModel(ACTION_TYPE_SMS, {target});
 }
@@ -205,23 +157,23 @@ QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action
 QString SMSActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_SMS_MSG.arg(fieldOf(target, KEY_TARGET_NAME)).arg(fieldOf(target, QStringLiteral("message")));
+    return ACTION_SMS_MSG.arg(textAt(target, {KEY_TARGET_NAME})).arg(textAt(target, {QStringLiteral("message")}));
 }
 
 QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    const QVariantMap http = typeElementOf(action, ACTION_TYPE_HTTP);
+    const QVariantMap http = mapAt(action, {ACTION_TYPE_HTTP});
     const bool isPost = booleanOf(http.value(QStringLiteral("Post")));
     // The list shows the method where other actions show their target, and the URL as the action.
     const QVariantMap target{
         {KEY_TARGET_NAME, isPost ? QStringLiteral("POST Method") : QStringLiteral("GET Method")},
-        {KEY_TARGET_ACTION, fieldOf(http, QStringLiteral("URL"))},
-        {QStringLiteral("needAuth"), fieldOf(http, QStringLiteral("NeedAuth"))},
-        {QStringLiteral("user"), fieldOf(http, QStringLiteral("User"))},
-        {QStringLiteral("pwd"), fieldOf(http, QStringLiteral("Pwd"))},
+        {KEY_TARGET_ACTION, textAt(http, {QStringLiteral("URL")})},
+        {QStringLiteral("needAuth"), textAt(http, {QStringLiteral("NeedAuth")})},
+        {QStringLiteral("user"), textAt(http, {QStringLiteral("User")})},
+        {QStringLiteral("pwd"), textAt(http, {QStringLiteral("Pwd")})},
         {QStringLiteral("post"), isPost},
-        {QStringLiteral("contentType"), fieldOf(http, QStringLiteral("ContentType"))},
-        {QStringLiteral("httpContent"), fieldOf(http, QStringLiteral("HTTPContent"))},
+        {QStringLiteral("contentType"), textAt(http, {QStringLiteral("ContentType")})},
+        {QStringLiteral("httpContent"), textAt(http, {QStringLiteral("HTTPContent")})},
     };
     return actionModel(ACTION_TYPE_HTTP, {target});
 }
@@ -231,24 +183,24 @@ QString HTTPActionParser::ActionTargetToXml(const QVariant& actionTarget)
     // The editor puts the URL under "target" when it encodes; method and body are not part of the
     // written action.
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_HTTP_MSG.arg(fieldOf(target, KEY_TARGET_NAME))
-        .arg(fieldOf(target, QStringLiteral("needAuth")))
-        .arg(fieldOf(target, QStringLiteral("user")))
-        .arg(fieldOf(target, QStringLiteral("pwd")));
+    return ACTION_HTTP_MSG.arg(textAt(target, {KEY_TARGET_NAME}))
+        .arg(textAt(target, {QStringLiteral("needAuth")}))
+        .arg(textAt(target, {QStringLiteral("user")}))
+        .arg(textAt(target, {QStringLiteral("pwd")}));
 }
 
 // ---- Recording, preset, digital output: one target per camera, preset or output ----
 
 QMap<QString, QVariant> RecordingActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager* manager)
 {
-    const QVariantMap recording = typeElementOf(action, ACTION_TYPE_RECORDING);
+    const QVariantMap recording = mapAt(action, {ACTION_TYPE_RECORDING});
     QVariantList targets;
     const QVariantList cameras = transContentAsList(recording.value(QStringLiteral("Cam")));
     for (const QVariant& camera : cameras) {
         // A camera without a group attribute belongs to group 0.
-        const bool hasAttributes = camera.canConvert<QVariantMap>();
-        const QString camId = elementTextOf(camera);
-        const QString grpId = hasAttributes ? fieldOf(camera.toMap(), QStringLiteral("@GrpID")) : QStringLiteral("0");
+        const bool hasAttributes = isMap(camera);
+        const QString camId = ownTextOf(camera);
+        const QString grpId = hasAttributes ? textAt(camera, {QStringLiteral("@GrpID")}) : QStringLiteral("0");
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, displayNameOf(manager, camId)},
             {KEY_TARGET_ACTION, QString()},
@@ -262,27 +214,27 @@ QMap<QString, QVariant> RecordingActionParser::XmlToActionModel(const QVariant& 
 QString RecordingActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     QString cameras;
-    const QVariantList targets = targetListOf(actionTarget);
+    const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
-        const QVariantMap target = childrenOf(targetValue);
-        cameras += CAM_ENTRY.arg(fieldOf(target, QStringLiteral("grpId")), fieldOf(target, KEY_CAMERA_ID));
+        const QVariantMap target = mapOf(targetValue);
+        cameras += CAM_ENTRY.arg(textAt(target, {QStringLiteral("grpId")}), textAt(target, {KEY_CAMERA_ID}));
     }
     return ACTION_RECORDING_MSG.arg(cameras);
 }
 
 QMap<QString, QVariant> PresetActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager* manager)
 {
-    const QVariantMap preset = typeElementOf(action, ACTION_TYPE_PRESET);
+    const QVariantMap preset = mapAt(action, {ACTION_TYPE_PRESET});
     QVariantList targets;
     const QVariantList entries = transContentAsList(preset.value(QStringLiteral("Entry")));
     for (const QVariant& entryValue : entries) {
-        const QVariantMap entry = childrenOf(entryValue);
-        const QString camId = fieldOf(entry, QStringLiteral("Name"));
+        const QVariantMap entry = mapOf(entryValue);
+        const QString camId = textAt(entry, {QStringLiteral("Name")});
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, displayNameOf(manager, camId)},
             {KEY_TARGET_ACTION, QString()},
             {KEY_CAMERA_ID, camId},
-            {QStringLiteral("pos"), fieldOf(entry, QStringLiteral("Pos"))},
+            {QStringLiteral("pos"), textAt(entry, {QStringLiteral("Pos")})},
         });
     }
     return actionModel(ACTION_TYPE_PRESET, targets);
@@ -291,33 +243,33 @@ QMap<QString, QVariant> PresetActionParser::XmlToActionModel(const QVariant& act
 QString PresetActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     QString entries;
-    const QVariantList targets = targetListOf(actionTarget);
+    const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
-        const QVariantMap target = childrenOf(targetValue);
-        entries += PRESETLOC_ENTRY.arg(fieldOf(target, KEY_CAMERA_ID), fieldOf(target, QStringLiteral("pos")));
+        const QVariantMap target = mapOf(targetValue);
+        entries += PRESETLOC_ENTRY.arg(textAt(target, {KEY_CAMERA_ID}), textAt(target, {QStringLiteral("pos")}));
     }
     return ACTION_PRESETLOCMOVE_MSG.arg(entries);
 }
 
 QMap<QString, QVariant> SetDOActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager* manager)
 {
-    const QVariantMap setDo = typeElementOf(action, ACTION_TYPE_SETDO);
+    const QVariantMap setDo = mapAt(action, {ACTION_TYPE_SETDO});
     QVariantList targets;
     const QVariantList devices = transContentAsList(setDo.value(QStringLiteral("Entry")));
     for (const QVariant& deviceValue : devices) {
-        const QVariantMap device = childrenOf(deviceValue);
-        const QString deviceId = fieldOf(device, QStringLiteral("Name"));
+        const QVariantMap device = mapOf(deviceValue);
+        const QString deviceId = textAt(device, {QStringLiteral("Name")});
         const QString deviceName = displayNameOf(manager, deviceId);
         const QVariantList outputs = transContentAsList(device.value(QStringLiteral("DO")));
         for (const QVariant& outputValue : outputs) {
-            const QVariantMap output = childrenOf(outputValue);
+            const QVariantMap output = mapOf(outputValue);
             const int ioIndex = integerOf(output.value(QStringLiteral("Idx")));
             // "index" carries the output's display name for the list; the number travels as "ioIndex".
             targets.append(QVariantMap{
                 {KEY_TARGET_NAME, deviceName},
                 {KEY_TARGET_ACTION, ACTION_TYPE_SETDO},
                 {QStringLiteral("index"), outputNameOf(manager, deviceId, ioIndex)},
-                {QStringLiteral("value"), fieldOf(output, QStringLiteral("Val"))},
+                {QStringLiteral("value"), textAt(output, {QStringLiteral("Val")})},
                 {QStringLiteral("period"), integerOf(output.value(QStringLiteral("Period")))},
                 {KEY_CAMERA_ID, deviceId},
                 {QStringLiteral("ioIndex"), ioIndex},
@@ -333,11 +285,11 @@ QString SetDOActionParser::ActionTargetToXml(const QVariant& actionTarget)
     // The encoder reads the output number from "index", which the editor fills before encoding.
     QString deviceId;
     QString outputs;
-    const QVariantList targets = targetListOf(actionTarget);
+    const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
-        const QVariantMap target = childrenOf(targetValue);
-        deviceId = fieldOf(target, KEY_CAMERA_ID);
-        outputs += DO_ENTRY.arg(fieldOf(target, QStringLiteral("index")), fieldOf(target, QStringLiteral("value")));
+        const QVariantMap target = mapOf(targetValue);
+        deviceId = textAt(target, {KEY_CAMERA_ID});
+        outputs += DO_ENTRY.arg(textAt(target, {QStringLiteral("index")}), textAt(target, {QStringLiteral("value")}));
     }
     return ACTION_SETDO_MSG.arg(deviceId).arg(outputs);
 }
@@ -348,10 +300,10 @@ QMap<QString, QVariant> ClientNotifyGotoLiveStreamActionParser::XmlToActionModel
                                                                                   PluginAlarmManager* manager)
 {
     const QVariantMap popup =
-        childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(QStringLiteral("PopupWindow")));
+        mapAt(action, {ACTION_TYPE_CLIENTNOTIFY, QStringLiteral("PopupWindow")});
     QVariantList targets;
     // Only the exact text "true" counts; the "1" this plug-in writes reads as not set.
-    if (fieldOf(popup, QStringLiteral("IncludeTriggerCam")) == QLatin1String("true")) {
+    if (textAt(popup, {QStringLiteral("IncludeTriggerCam")}) == QLatin1String("true")) {
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, triggerCameraText()},
             {KEY_TARGET_ACTION, QString()},
@@ -361,7 +313,7 @@ QMap<QString, QVariant> ClientNotifyGotoLiveStreamActionParser::XmlToActionModel
     }
     const QVariantList cameras = transContentAsList(popup.value(QStringLiteral("Cam")));
     for (const QVariant& camera : cameras) {
-        const QString camId = elementTextOf(camera);
+        const QString camId = ownTextOf(camera);
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, displayNameOf(manager, camId)},
             {KEY_TARGET_ACTION, QString()},
@@ -379,13 +331,13 @@ QString ClientNotifyGotoLiveStreamActionParser::ActionTargetToXml(const QVariant
     const QString triggerCamera = triggerCameraText();
     bool includesTriggerCamera = false;
     QString cameras;
-    const QVariantList targets = targetListOf(actionTarget);
+    const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
-        const QVariantMap target = childrenOf(targetValue);
-        if (fieldOf(target, KEY_TARGET_NAME) == triggerCamera)
+        const QVariantMap target = mapOf(targetValue);
+        if (textAt(target, {KEY_TARGET_NAME}) == triggerCamera)
             includesTriggerCamera = true;
         else
-            cameras += NOTIFI_CAM_ENTRY.arg(fieldOf(target, KEY_CAMERA_ID));
+            cameras += NOTIFI_CAM_ENTRY.arg(textAt(target, {KEY_CAMERA_ID}));
     }
     // The flag is written as a number, which the decoder deliberately does not read as set.
     return ACTION_CLIENTNOTIFICATION_MSG.arg(includesTriggerCamera ? 1 : 0).arg(cameras);
@@ -393,14 +345,14 @@ QString ClientNotifyGotoLiveStreamActionParser::ActionTargetToXml(const QVariant
 
 QMap<QString, QVariant> ClientNotifyGotoEMapActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    const QVariantMap eMap = childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(NOTIFY_TYPE_EMAP));
+    const QVariantMap eMap = mapAt(action, {ACTION_TYPE_CLIENTNOTIFY, NOTIFY_TYPE_EMAP});
     QVariantList targets;
     const QVariantList maps = transContentAsList(eMap.value(QStringLiteral("MapInfo")));
     for (const QVariant& mapValue : maps) {
         if (!mapValue.isValid())
             continue;
-        const QVariantMap mapInfo = childrenOf(mapValue);
-        const QString mapId = fieldOf(mapInfo, QStringLiteral("MapId"));
+        const QVariantMap mapInfo = mapOf(mapValue);
+        const QString mapId = textAt(mapInfo, {QStringLiteral("MapId")});
         // Map ids carry a one-character kind prefix that the list does not show.
         targets.append(QVariantMap{
             {KEY_TARGET_NAME, transformTargetName(mapId.mid(1))},
@@ -429,7 +381,7 @@ QString ClientNotifyGotoEMapActionParser::transformTargetName(QString name)
 QMap<QString, QVariant> ClientNotifySoundTheAlarmActionParser::XmlToActionModel(const QVariant& action,
                                                                                  PluginAlarmManager*)
 {
-    const QVariantMap sound = childrenOf(typeElementOf(action, ACTION_TYPE_CLIENTNOTIFY).value(NOTIFY_TYPE_SOUND));
+    const QVariantMap sound = mapAt(action, {ACTION_TYPE_CLIENTNOTIFY, NOTIFY_TYPE_SOUND});
     QVariantList targets;
     const QVariantList sounds = transContentAsList(sound.value(QStringLiteral("Sound")));
     for (const QVariant& soundName : sounds)
@@ -446,21 +398,21 @@ QString ClientNotifySoundTheAlarmActionParser::ActionTargetToXml(const QVariant&
 
 QMap<QString, QVariant> AddBookmarkAlarmActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    const QVariantMap bookmark = typeElementOf(action, ACTION_TYPE_ADDBOOKMARK);
+    const QVariantMap bookmark = mapAt(action, {ACTION_TYPE_ADDBOOKMARK});
     QVariantList targets;
     const QVariantList cameras = transContentAsList(bookmark.value(QStringLiteral("CamInfo")));
     for (const QVariant& cameraValue : cameras) {
-        const QVariantMap camera = childrenOf(cameraValue);
+        const QVariantMap camera = mapOf(cameraValue);
         // The rule stores the camera's name itself; no lookup.
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, fieldOf(camera, QStringLiteral("CamRefName"))},
+            {KEY_TARGET_NAME, textAt(camera, {QStringLiteral("CamRefName")})},
             {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, fieldOf(camera, QStringLiteral("CamId"))},
-            {QStringLiteral("locId"), fieldOf(camera, QStringLiteral("LocId"))},
-            {QStringLiteral("duration"), fieldOf(camera, QStringLiteral("Duration"))},
-            {QStringLiteral("creator"), fieldOf(camera, QStringLiteral("Creator"))},
-            {QStringLiteral("description"), fieldOf(camera, QStringLiteral("Description"))},
-            {QStringLiteral("group"), fieldOf(camera, QStringLiteral("Group"))},
+            {KEY_CAMERA_ID, textAt(camera, {QStringLiteral("CamId")})},
+            {QStringLiteral("locId"), textAt(camera, {QStringLiteral("LocId")})},
+            {QStringLiteral("duration"), textAt(camera, {QStringLiteral("Duration")})},
+            {QStringLiteral("creator"), textAt(camera, {QStringLiteral("Creator")})},
+            {QStringLiteral("description"), textAt(camera, {QStringLiteral("Description")})},
+            {QStringLiteral("group"), textAt(camera, {QStringLiteral("Group")})},
         });
     }
     return actionModel(ACTION_TYPE_ADDBOOKMARK, targets);
@@ -473,15 +425,15 @@ QString AddBookmarkAlarmActionParser::ActionTargetToXml(const QVariant&)
 
 QMap<QString, QVariant> PlayIPAudioAlarmActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
 {
-    const QVariantMap playAudio = typeElementOf(action, ACTION_TYPE_PLAYIPAUDIO);
+    const QVariantMap playAudio = mapAt(action, {ACTION_TYPE_PLAYIPAUDIO});
     QVariantList targets;
     const QVariantList devices = transContentAsList(playAudio.value(QStringLiteral("IPAudioInfo")));
     for (const QVariant& deviceValue : devices) {
-        const QVariantMap device = childrenOf(deviceValue);
+        const QVariantMap device = mapOf(deviceValue);
         // The file to play is what is done to the device, so it stands under "action".
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, fieldOf(device, QStringLiteral("IPAudioName"))},
-            {KEY_TARGET_ACTION, fieldOf(device, QStringLiteral("AudioFileName"))},
+            {KEY_TARGET_NAME, textAt(device, {QStringLiteral("IPAudioName")})},
+            {KEY_TARGET_ACTION, textAt(device, {QStringLiteral("AudioFileName")})},
             {QStringLiteral("fileId"), integerOf(device.value(QStringLiteral("AudioFileId")))},
             {QStringLiteral("ipAudioId"), integerOf(device.value(QStringLiteral("IPAudioId")))},
         });
@@ -498,7 +450,7 @@ QMap<QString, QVariant> MobileNotificationActionParser::XmlToActionModel(const Q
                                                                           PluginAlarmManager* manager)
 {
     const QVariantMap pushInfo =
-        childrenOf(typeElementOf(action, ACTION_TYPE_MOBILENOTIFICATION).value(QStringLiteral("PushInfo")));
+        mapAt(action, {ACTION_TYPE_MOBILENOTIFICATION, QStringLiteral("PushInfo")});
     if (booleanOf(pushInfo.value(QStringLiteral("PushAll")))) {
         const QVariantMap everyone{
             {KEY_TARGET_NAME, QObject::tr("All roles")},
@@ -582,7 +534,7 @@ QSharedPointer<IActionParser> ActionParserFactory::GetActionParser(const QMap<QS
         return makeParser<SetDOActionParser>();
     if (action.contains(ACTION_TYPE_CLIENTNOTIFY)) {
         const QString notificationType =
-            fieldOf(childrenOf(action.value(ACTION_TYPE_CLIENTNOTIFY)), QStringLiteral("Type"));
+            textAt(action, {ACTION_TYPE_CLIENTNOTIFY, QStringLiteral("Type")});
         if (notificationType == NOTIFY_TYPE_POPUP)
             return makeParser<ClientNotifyGotoLiveStreamActionParser>();
         if (notificationType == NOTIFY_TYPE_EMAP)

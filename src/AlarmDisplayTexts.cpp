@@ -6,8 +6,12 @@
 #include <QVariantMap>
 
 #include "stdafx.h"
+#include "VariantTree.h"
 
 using namespace ActionParserCommon;
+
+// A list stored under a role or inside one; a text, which QVariant would split into characters, is none.
+using VariantTree::listOf;
 
 namespace {
 

@@ -4,14 +4,6 @@
 #include <QVariant>
 #include <QVariantList>
 
-// A list stored under a role or inside one; anything else, a text included (which QVariant would split into
-// characters), reads as no list at all.
-inline QVariantList listOf(const QVariant& value)
-{
-    const int type = value.typeId();
-    return type == QMetaType::QVariantList || type == QMetaType::QStringList ? value.toList() : QVariantList();
-}
-
 // The texts the alarm list shows for a rule's triggers and actions, looked up in the current UI language
 // under the QObject context. Unknown server values are shown as they are, never guessed at.
 namespace AlarmDisplayTexts {

@@ -7,7 +7,10 @@
 #include <QStringList>
 
 #include "PluginAlarmManager.h"
+#include "VariantTree.h"
 #include "XML2Json.h"
+
+using namespace VariantTree;
 
 namespace {
 
@@ -89,16 +92,6 @@ const VcaTemplate VCA_TEMPLATES[] = {
     {QStringLiteral("AbandonObject"), QStringLiteral("{%1}"), {}, false},
 };
 
-QString textOf(const QVariantMap& map, const QString& key)
-{
-    return map.value(key).toString();
-}
-
-QVariantMap mapOf(const QVariantMap& map, const QString& key)
-{
-    return map.value(key).toMap();
-}
-
 // Site prefixes of reference names: station, camera, device. Only a leading one is dropped.
 const QRegularExpression& referencePrefix()
 {
@@ -110,13 +103,12 @@ const QRegularExpression& referencePrefix()
 
 void AlarmEventParser::SetMessage(const QString& xml)
 {
-    const QVariantMap document = XML2Json::parse(xml).toMap();
-    m_alarm = mapOf(mapOf(document, TAG_ALARM_NOTIFICATION), TAG_ALARM);
-    m_quessaEvent = mapOf(m_alarm, TAG_QUESSA_EVENT);
-    m_typeAsSent = textOf(m_quessaEvent, TAG_TYPE);
+    m_alarm = mapAt(XML2Json::parse(xml), {TAG_ALARM_NOTIFICATION, TAG_ALARM});
+    m_quessaEvent = mapAt(m_alarm, {TAG_QUESSA_EVENT});
+    m_typeAsSent = textAt(m_quessaEvent, {TAG_TYPE});
     // Elsewhere this trigger is keyed by its short name, and so is its body under "QuessaEvent".
     m_triggerType = m_typeAsSent == TYPE_STORAGE_CAPACITY ? TYPE_STORAGE_CAP : m_typeAsSent;
-    m_triggerBody = mapOf(m_quessaEvent, m_triggerType);
+    m_triggerBody = mapAt(m_quessaEvent, {m_triggerType});
     const auto event = m_triggerBody.constFind(TAG_EVENT);
     if (event != m_triggerBody.constEnd())
         m_triggerBody = event->toMap();
@@ -129,7 +121,7 @@ QVariantMap AlarmEventParser::GetQuessaEventMap() const
 
 QString AlarmEventParser::GetAlarmName() const
 {
-    return PluginAlarmManager::DecodePercentEncodedStr(textOf(m_alarm, TAG_NAME));
+    return PluginAlarmManager::DecodePercentEncodedStr(textAt(m_alarm, {TAG_NAME}));
 }
 
 QVariantMap AlarmEventParser::GetTriggerMap() const
@@ -163,7 +155,7 @@ QString AlarmEventParser::GetTriggerEvent() const
         if (eventTypeText != EVENT_TYPE_VCA)
             return eventTypeText;
         // For video analysis the kind of rule that fired is the event.
-        return textOf(mapOf(body, TAG_VCA), TAG_TYPE);
+        return textAt(body, {TAG_VCA, TAG_TYPE});
     }
     return m_triggerType;
 }
@@ -189,7 +181,7 @@ QString AlarmEventParser::GetVCAValue(const QVariantMap& vca) const
             if (vcaTemplate.argumentsAreIntegers)
                 value = value.arg(rule.value(key).toInt());
             else
-                value = value.arg(textOf(rule, key));
+                value = value.arg(textAt(rule, {key}));
         }
         return value;
     }
@@ -201,38 +193,38 @@ QString AlarmEventParser::GetTriggerValue() const
     const QVariantMap& body = m_triggerBody;
     const QString& type = m_triggerType;
     if (type == TYPE_GPS_SPEED) {
-        const QVariantMap speed = mapOf(body, TAG_SPEED);
+        const QVariantMap speed = mapAt(body, {TAG_SPEED});
         return QStringLiteral("{\"threshold\": %1, \"speed\": %2}")
-            .arg(textOf(speed, ATTRIBUTE_THRESHOLD))
-            .arg(textOf(speed, ELEMENT_TEXT));
+            .arg(textAt(speed, {ATTRIBUTE_THRESHOLD}))
+            .arg(textAt(speed, {ELEMENT_TEXT}));
     }
     if (type == TYPE_AREA_REPORT) {
         return QStringLiteral("{\"AreaId\": \"%1\", \"RemainingPeople\": \"%2\"}")
-            .arg(textOf(body, TAG_AREA_ID))
-            .arg(textOf(body, TAG_REMAINING_PEOPLE));
+            .arg(textAt(body, {TAG_AREA_ID}))
+            .arg(textAt(body, {TAG_REMAINING_PEOPLE}));
     }
     if (type == TYPE_DATA_MAGNET || type == TYPE_ACCESS_RULE)
-        return textOf(body, TAG_DATA_SOURCE);
+        return textAt(body, {TAG_DATA_SOURCE});
     if (type == TYPE_VIRTUAL_TRIGGER)
-        return PluginAlarmManager::DecodePercentEncodedStr(textOf(body, TAG_NAME));
+        return PluginAlarmManager::DecodePercentEncodedStr(textAt(body, {TAG_NAME}));
 
     const auto eventType = body.constFind(TAG_EVENT_TYPE);
     if (eventType == body.constEnd())
-        return textOf(body, getTriggerValueTag(body));
+        return textAt(body, {getTriggerValueTag(body)});
     const QString eventTypeText = eventType->toString();
-    const QVariantMap eventBody = mapOf(body, eventTypeText);
+    const QVariantMap eventBody = mapAt(body, {eventTypeText});
     if (eventTypeText == EVENT_TYPE_VCA)
         return GetVCAValue(eventBody);
     if (eventTypeText == EVENT_TYPE_GUARDIAN)
-        return textOf(eventBody, TAG_NAME);
+        return textAt(eventBody, {TAG_NAME});
     if (eventTypeText == EVENT_TYPE_THERMAL)
         return QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(eventBody)).toJson(QJsonDocument::Compact));
-    return textOf(eventBody, getTriggerValueTag(eventBody));
+    return textAt(eventBody, {getTriggerValueTag(eventBody)});
 }
 
 QString AlarmEventParser::GetDIOIndex() const
 {
-    return textOf(mapOf(m_triggerBody, GetTriggerEvent()), TAG_INDEX);
+    return textAt(m_triggerBody, {GetTriggerEvent(), TAG_INDEX});
 }
 
 QString AlarmEventParser::GetNodeID() const
@@ -241,18 +233,18 @@ QString AlarmEventParser::GetNodeID() const
     const QString& type = eventTypeAsSent();
     if (type == TYPE_DATA_MAGNET || type == TYPE_ACCESS_RULE) {
         // The first of the comma-separated cameras, even when it is empty.
-        const QString cameras = textOf(body, TAG_CAMERA);
+        const QString cameras = textAt(body, {TAG_CAMERA});
         const qsizetype comma = cameras.indexOf(QLatin1Char(','));
         return comma < 0 ? cameras : cameras.left(comma);
     }
     if (type == TYPE_VIRTUAL_TRIGGER)
-        return textOf(body, TAG_CAMERA);
+        return textAt(body, {TAG_CAMERA});
     for (const QString* tag : {&TAG_CAM_NAME, &TAG_DEVICE_NAME}) {
         const auto node = body.constFind(*tag);
         if (node != body.constEnd())
             return node->toString();
     }
-    return textOf(body, TAG_STATION_ADDRESS);
+    return textAt(body, {TAG_STATION_ADDRESS});
 }
 
 qint64 AlarmEventParser::GetServerTime() const
@@ -263,7 +255,7 @@ qint64 AlarmEventParser::GetServerTime() const
 qint64 AlarmEventParser::parseServerTimestamp(const QVariant& value) const
 {
     // An element with attributes arrives as a map; its time is the element's text.
-    const QString text = value.canConvert<QString>() ? value.toString() : textOf(value.toMap(), ELEMENT_TEXT);
+    const QString text = value.canConvert<QString>() ? value.toString() : textAt(value.toMap(), {ELEMENT_TEXT});
     return QDateTime::fromString(text, Qt::ISODate).toMSecsSinceEpoch();
 }
 
@@ -272,20 +264,20 @@ QString AlarmEventParser::GetDeviceName() const
     const QVariantMap& body = m_triggerBody;
     const QString& type = eventTypeAsSent();
     if (type == TYPE_DATA_MAGNET)
-        return textOf(body, TAG_CATEGORY);
+        return textAt(body, {TAG_CATEGORY});
     if (type == TYPE_ACCESS_RULE)
-        return textOf(body, TAG_RULE_NAME);
-    return textOf(body, TAG_REF_NAME).remove(referencePrefix());
+        return textAt(body, {TAG_RULE_NAME});
+    return textAt(body, {TAG_REF_NAME}).remove(referencePrefix());
 }
 
 QString AlarmEventParser::GetAlarmId() const
 {
-    return textOf(m_alarm, TAG_ALARM_ID);
+    return textAt(m_alarm, {TAG_ALARM_ID});
 }
 
 QString AlarmEventParser::GetTimecardId() const
 {
-    return textOf(m_alarm, TAG_TIMECARD_ID);
+    return textAt(m_alarm, {TAG_TIMECARD_ID});
 }
 
 bool AlarmEventParser::Mute() const

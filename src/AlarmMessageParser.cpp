@@ -5,6 +5,7 @@
 #include "AlarmModel.h"
 #include "PluginAlarmManager.h"
 #include "PluginAlarmManager_Log.h"
+#include "VariantTree.h"
 #include "XML2Json.h"
 #include "stdafx.h"
 
@@ -20,68 +21,20 @@
 #include <limits>
 
 using namespace AlarmMessageParserCommon;
+using namespace VariantTree;
 
 namespace {
 
-// The child at a path of tags. A step that meets anything but a map (text where a map was expected, a
-// repeated tag) reads as missing, so every caller sees empty values instead of a wrong shape.
-QVariant valueAt(const QVariant& node, std::initializer_list<QString> path)
-{
-    QVariant value = node;
-    for (const QString& tag : path) {
-        if (value.typeId() != QMetaType::QVariantMap)
-            return {};
-        const auto* map = static_cast<const QVariantMap*>(value.constData());
-        const auto found = map->constFind(tag);
-        if (found == map->constEnd())
-            return {};
-        QVariant child = *found;
-        value = std::move(child);
-    }
-    return value;
-}
-
-QVariant valueAt(const QVariantMap& map, std::initializer_list<QString> path)
-{
-    return valueAt(QVariant(map), path);
-}
-
-template<typename Node>
-QString textAt(const Node& node, std::initializer_list<QString> path)
-{
-    return valueAt(node, path).toString();
-}
-
+// A number as QVariant converts it.
 template<typename Node>
 int intAt(const Node& node, std::initializer_list<QString> path)
 {
     return valueAt(node, path).toInt();
 }
 
-template<typename Node>
-QVariantMap mapAt(const Node& node, std::initializer_list<QString> path)
-{
-    return valueAt(node, path).toMap();
-}
-
-// A child that may occur once or many times.
-template<typename Node>
-QVariantList listAt(const Node& node, std::initializer_list<QString> path)
-{
-    return XML2Json::transContentAsList(valueAt(node, path));
-}
-
 int latencyOf(const QVariantMap& trigger)
 {
     return intAt(trigger, {QStringLiteral("Rule"), QStringLiteral("Latency")});
-}
-
-// Text of an element that may also carry attributes or children: its "#text" then.
-QString ownTextOf(const QVariant& element)
-{
-    if (element.typeId() == QMetaType::QVariantMap)
-        return textAt(element, {QStringLiteral("#text")});
-    return element.toString();
 }
 
 int dioTypeOf(const QString& ioName)

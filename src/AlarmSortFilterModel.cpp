@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
-#include "AlarmDisplayTexts.h"
 #include "AlarmModel.h"
+#include "VariantTree.h"
+
+// A list stored under a role or inside one; a text, which QVariant would split into characters, is none.
+using VariantTree::listOf;
 
 namespace {
 

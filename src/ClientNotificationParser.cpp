@@ -1,7 +1,10 @@
 #include "ClientNotificationParser.h"
 
 #include "PluginAlarmManager.h"
+#include "VariantTree.h"
 #include "XML2Json.h"
+
+using namespace VariantTree;
 
 namespace {
 
@@ -49,32 +52,22 @@ constexpr int GO_TO_EMAP_KIND = PluginAlarmManager::GoToEMap;
 constexpr int POPUP_WINDOW_KIND = PluginAlarmManager::PopupWindow;
 constexpr int SOUND_THE_ALARM_KIND = 2;
 
-QString textOf(const QVariantMap& map, const QString& key)
-{
-    return map.value(key).toString();
-}
-
-QVariantMap mapOf(const QVariantMap& map, const QString& key)
-{
-    return map.value(key).toMap();
-}
-
 } // namespace
 
 ClientNotificationParser::ClientNotificationParser(const QString& xml)
 {
-    const QVariantMap root = mapOf(XML2Json::parse(xml).toMap(), TAG_CLIENT_NOTIFICATION);
-    m_timecardId = textOf(root, TAG_TIMECARD_ID);
-    const QString type = textOf(root, TAG_TYPE);
+    const QVariantMap root = mapAt(XML2Json::parse(xml), {TAG_CLIENT_NOTIFICATION});
+    m_timecardId = textAt(root, {TAG_TIMECARD_ID});
+    const QString type = textAt(root, {TAG_TYPE});
     if (type == TYPE_POPUP_WINDOW) {
         m_type = POPUP_WINDOW_KIND;
-        m_parsedData = ParsePopupWindow(mapOf(root, TAG_POPUP_WINDOW));
+        m_parsedData = ParsePopupWindow(mapAt(root, {TAG_POPUP_WINDOW}));
     } else if (type == TYPE_GO_TO_EMAP) {
         m_type = GO_TO_EMAP_KIND;
-        m_parsedData = ParseGoToEMap(mapOf(root, TAG_GO_TO_EMAP));
+        m_parsedData = ParseGoToEMap(mapAt(root, {TAG_GO_TO_EMAP}));
     } else if (type == TYPE_SOUND_THE_ALARM) {
         m_type = SOUND_THE_ALARM_KIND;
-        m_parsedData = ParseSoundTheAlarm(mapOf(root, TAG_SOUND_THE_ALARM));
+        m_parsedData = ParseSoundTheAlarm(mapAt(root, {TAG_SOUND_THE_ALARM}));
     }
 }
 
@@ -97,8 +90,8 @@ QVariantList ClientNotificationParser::ParsePopupWindow(const QVariantMap& body)
 {
     QVariantList cameras;
     // Triggering cameras come first so that the pop-up opens on the camera that raised the alarm.
-    if (textOf(body, TAG_INCLUDE_TRIGGER_CAM) == TRUE_TEXT) {
-        QVariantMap event = mapOf(body, TAG_QUESSA_EVENT);
+    if (textAt(body, {TAG_INCLUDE_TRIGGER_CAM}) == TRUE_TEXT) {
+        QVariantMap event = mapAt(body, {TAG_QUESSA_EVENT});
         QStringList eventCameras = parseCamEvent(event);
         composeUniqueList(cameras, eventCameras);
         QStringList dataMagnetCameras = parseDataMagnet(event);
@@ -106,8 +99,8 @@ QVariantList ClientNotificationParser::ParsePopupWindow(const QVariantMap& body)
     }
     // Configured cameras carry attributes, so their identifier is the element text.
     QStringList configuredCameras;
-    for (const QVariant& cam : XML2Json::transContentAsList(body.value(TAG_CAM)))
-        configuredCameras.append(textOf(cam.toMap(), ELEMENT_TEXT));
+    for (const QVariant& cam : listAt(body, {TAG_CAM}))
+        configuredCameras.append(textAt(cam, {ELEMENT_TEXT}));
     composeUniqueList(cameras, configuredCameras);
     return cameras;
 }
@@ -115,11 +108,11 @@ QVariantList ClientNotificationParser::ParsePopupWindow(const QVariantMap& body)
 QVariantList ClientNotificationParser::ParseGoToEMap(const QVariantMap& body) const
 {
     QVariantList maps;
-    for (const QVariant& mapInfoEntry : XML2Json::transContentAsList(body.value(TAG_MAP_INFO))) {
+    for (const QVariant& mapInfoEntry : listAt(body, {TAG_MAP_INFO})) {
         const QVariantMap mapInfo = mapInfoEntry.toMap();
         maps.append(QVariantMap{
             {KEY_MAP_ID, mapInfo.value(TAG_MAP_ID)},
-            {KEY_PLAY_CAM_LIST, XML2Json::transContentAsList(mapInfo.value(TAG_PLAY_CAM))},
+            {KEY_PLAY_CAM_LIST, listAt(mapInfo, {TAG_PLAY_CAM})},
         });
     }
     return maps;
@@ -128,24 +121,24 @@ QVariantList ClientNotificationParser::ParseGoToEMap(const QVariantMap& body) co
 QVariantList ClientNotificationParser::ParseSoundTheAlarm(const QVariantMap& body) const
 {
     QVariantList sounds;
-    for (const QVariant& sound : XML2Json::transContentAsList(body.value(TAG_SOUND)))
+    for (const QVariant& sound : listAt(body, {TAG_SOUND}))
         sounds.append(QVariantMap{{KEY_NAME, sound.toString()}});
     return sounds;
 }
 
 QStringList ClientNotificationParser::parseCamEvent(QVariantMap& event) const
 {
-    const QString type = textOf(event, TAG_TYPE);
+    const QString type = textAt(event, {TAG_TYPE});
     if (type == EVENT_CAM_EVENT) {
         QStringList cameras;
-        for (const QVariant& camEvent : XML2Json::transContentAsList(event.value(EVENT_CAM_EVENT)))
-            cameras.append(textOf(mapOf(camEvent.toMap(), TAG_EVENT), TAG_CAM_NAME));
+        for (const QVariant& camEvent : listAt(event, {EVENT_CAM_EVENT}))
+            cameras.append(textAt(camEvent, {TAG_EVENT, TAG_CAM_NAME}));
         return cameras;
     }
     if (type == EVENT_REC_STATUS || type == EVENT_REC_ERR || type == EVENT_CAM_CONN)
-        return {textOf(mapOf(event, type), TAG_CAM_NAME)};
+        return {textAt(event, {type, TAG_CAM_NAME})};
     if (type == EVENT_VIRTUAL_TRIGGER)
-        return {textOf(mapOf(event, type), TAG_CAMERA)};
+        return {textAt(event, {type, TAG_CAMERA})};
     return {};
 }
 
@@ -157,7 +150,7 @@ QStringList ClientNotificationParser::parseDataMagnet(QVariantMap& event) const
         return cameras;
     // Empty parts are kept: "c1,,c2" names an empty camera as well.
     for (const QVariant& entry : XML2Json::transContentAsList(*dataMagnet))
-        cameras.append(textOf(entry.toMap(), TAG_CAMERA).split(QLatin1Char(',')));
+        cameras.append(textAt(entry, {TAG_CAMERA}).split(QLatin1Char(',')));
     return cameras;
 }
 
