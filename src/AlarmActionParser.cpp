@@ -42,12 +42,6 @@ const QString NOTIFY_TYPE_SOUND = QStringLiteral("SoundTheAlarm");
 const QString GOOGLE_MAP_ID = QStringLiteral("{8A2DF5B3-8CDF-41B1-8163-EE2158116606}");
 const QString OPEN_STREET_MAP_ID = QStringLiteral("{202EE83D-9667-42AD-AED9-5A4C240193FA}");
 
-const QString KEY_ACTION_TYPE = QStringLiteral("actionType");
-const QString KEY_ACTION_TARGET = QStringLiteral("actionTarget");
-const QString KEY_TARGET_NAME = QStringLiteral("target");
-const QString KEY_TARGET_ACTION = QStringLiteral("action");
-const QString KEY_CAMERA_ID = QStringLiteral("camId");
-
 // Base 10, 0 for anything that is not a 32-bit number (QVariant::toInt would wrap larger values).
 int integerOf(const QVariant& value)
 {
@@ -69,7 +63,7 @@ QVariantMap firstTargetOf(const QVariant& actionTarget)
 
 QVariantMap actionModel(const QString& actionType, const QVariantList& targets)
 {
-    return {{KEY_ACTION_TYPE, actionType}, {KEY_ACTION_TARGET, targets}};
+    return {{ACTION_MODEL_TYPE, actionType}, {ACTION_MODEL_TARGET, targets}};
 }
 
 // Without a manager (a codec used on its own) names are empty and outputs get the lookup's own fallback.
@@ -120,11 +114,11 @@ QMap<QString, QVariant> SendMailActionParser::XmlToActionModel(const QVariant& a
     const QVariantMap mail = mapAt(action, {ACTION_TYPE_SENDMAIL});
     const QVariantMap snapshotCameras = mapAt(mail, {QStringLiteral("SnapshotCameraList")});
     const QVariantMap target{
-        {KEY_TARGET_NAME, textAt(mail, {QStringLiteral("To")})},
-        {KEY_TARGET_ACTION, QString()},
+        {TARGET_NAME, textAt(mail, {QStringLiteral("To")})},
+        {TARGET_ACTION, QString()},
         {QStringLiteral("senderName"), textAt(mail, {QStringLiteral("SenderName")})},
         {QStringLiteral("from"), textAt(mail, {QStringLiteral("From")})},
-        {QStringLiteral("cc"), textAt(mail, {QStringLiteral("Cc")})},
+        {TARGET_CC, textAt(mail, {QStringLiteral("Cc")})},
         {QStringLiteral("subject"), textAt(mail, {QStringLiteral("Subject")})},
         {QStringLiteral("content"), textAt(mail, {QStringLiteral("MailContent")})},
         {QStringLiteral("snapshotCameraList"), transContentAsList(snapshotCameras.value(QStringLiteral("Camera")))},
@@ -137,8 +131,8 @@ QString SendMailActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantMap target = firstTargetOf(actionTarget);
     return ACTION_SENDMAIL_MSG.arg(textAt(target, {QStringLiteral("senderName")}))
         .arg(textAt(target, {QStringLiteral("from")}))
-        .arg(textAt(target, {KEY_TARGET_NAME}))
-        .arg(textAt(target, {QStringLiteral("cc")}))
+        .arg(textAt(target, {TARGET_NAME}))
+        .arg(textAt(target, {TARGET_CC}))
         .arg(textAt(target, {QStringLiteral("subject")}))
         .arg(textAt(target, {QStringLiteral("content")}));
 }
@@ -147,8 +141,8 @@ QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action
 {
     const QVariantMap sms = mapAt(action, {ACTION_TYPE_SMS});
     const QVariantMap target{
-        {KEY_TARGET_NAME, textAt(sms, {QStringLiteral("PhoneNum")})},
-        {KEY_TARGET_ACTION, QString()},
+        {TARGET_NAME, textAt(sms, {QStringLiteral("PhoneNum")})},
+        {TARGET_ACTION, QString()},
         {QStringLiteral("message"), textAt(sms, {QStringLiteral("Message")})},
     };
     return actionModel(ACTION_TYPE_SMS, {target});
@@ -157,7 +151,7 @@ QMap<QString, QVariant> SMSActionParser::XmlToActionModel(const QVariant& action
 QString SMSActionParser::ActionTargetToXml(const QVariant& actionTarget)
 {
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_SMS_MSG.arg(textAt(target, {KEY_TARGET_NAME})).arg(textAt(target, {QStringLiteral("message")}));
+    return ACTION_SMS_MSG.arg(textAt(target, {TARGET_NAME})).arg(textAt(target, {QStringLiteral("message")}));
 }
 
 QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant& action, PluginAlarmManager*)
@@ -166,12 +160,12 @@ QMap<QString, QVariant> HTTPActionParser::XmlToActionModel(const QVariant& actio
     const bool isPost = booleanOf(http.value(QStringLiteral("Post")));
     // The list shows the method where other actions show their target, and the URL as the action.
     const QVariantMap target{
-        {KEY_TARGET_NAME, isPost ? QStringLiteral("POST Method") : QStringLiteral("GET Method")},
-        {KEY_TARGET_ACTION, textAt(http, {QStringLiteral("URL")})},
+        {TARGET_NAME, isPost ? QStringLiteral("POST Method") : QStringLiteral("GET Method")},
+        {TARGET_ACTION, textAt(http, {QStringLiteral("URL")})},
         {QStringLiteral("needAuth"), textAt(http, {QStringLiteral("NeedAuth")})},
         {QStringLiteral("user"), textAt(http, {QStringLiteral("User")})},
         {QStringLiteral("pwd"), textAt(http, {QStringLiteral("Pwd")})},
-        {QStringLiteral("post"), isPost},
+        {TARGET_POST, isPost},
         {QStringLiteral("contentType"), textAt(http, {QStringLiteral("ContentType")})},
         {QStringLiteral("httpContent"), textAt(http, {QStringLiteral("HTTPContent")})},
     };
@@ -183,7 +177,7 @@ QString HTTPActionParser::ActionTargetToXml(const QVariant& actionTarget)
     // The editor puts the URL under "target" when it encodes; method and body are not part of the
     // written action.
     const QVariantMap target = firstTargetOf(actionTarget);
-    return ACTION_HTTP_MSG.arg(textAt(target, {KEY_TARGET_NAME}))
+    return ACTION_HTTP_MSG.arg(textAt(target, {TARGET_NAME}))
         .arg(textAt(target, {QStringLiteral("needAuth")}))
         .arg(textAt(target, {QStringLiteral("user")}))
         .arg(textAt(target, {QStringLiteral("pwd")}));
@@ -202,9 +196,9 @@ QMap<QString, QVariant> RecordingActionParser::XmlToActionModel(const QVariant& 
         const QString camId = ownTextOf(camera);
         const QString grpId = hasAttributes ? textAt(camera, {QStringLiteral("@GrpID")}) : QStringLiteral("0");
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, displayNameOf(manager, camId)},
-            {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, camId},
+            {TARGET_NAME, displayNameOf(manager, camId)},
+            {TARGET_ACTION, QString()},
+            {TARGET_CAMERA_ID, camId},
             {QStringLiteral("grpId"), grpId},
         });
     }
@@ -217,7 +211,7 @@ QString RecordingActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = mapOf(targetValue);
-        cameras += CAM_ENTRY.arg(textAt(target, {QStringLiteral("grpId")}), textAt(target, {KEY_CAMERA_ID}));
+        cameras += CAM_ENTRY.arg(textAt(target, {QStringLiteral("grpId")}), textAt(target, {TARGET_CAMERA_ID}));
     }
     return ACTION_RECORDING_MSG.arg(cameras);
 }
@@ -231,9 +225,9 @@ QMap<QString, QVariant> PresetActionParser::XmlToActionModel(const QVariant& act
         const QVariantMap entry = mapOf(entryValue);
         const QString camId = textAt(entry, {QStringLiteral("Name")});
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, displayNameOf(manager, camId)},
-            {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, camId},
+            {TARGET_NAME, displayNameOf(manager, camId)},
+            {TARGET_ACTION, QString()},
+            {TARGET_CAMERA_ID, camId},
             {QStringLiteral("pos"), textAt(entry, {QStringLiteral("Pos")})},
         });
     }
@@ -246,7 +240,7 @@ QString PresetActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = mapOf(targetValue);
-        entries += PRESETLOC_ENTRY.arg(textAt(target, {KEY_CAMERA_ID}), textAt(target, {QStringLiteral("pos")}));
+        entries += PRESETLOC_ENTRY.arg(textAt(target, {TARGET_CAMERA_ID}), textAt(target, {QStringLiteral("pos")}));
     }
     return ACTION_PRESETLOCMOVE_MSG.arg(entries);
 }
@@ -266,13 +260,13 @@ QMap<QString, QVariant> SetDOActionParser::XmlToActionModel(const QVariant& acti
             const int ioIndex = integerOf(output.value(QStringLiteral("Idx")));
             // "index" carries the output's display name for the list; the number travels as "ioIndex".
             targets.append(QVariantMap{
-                {KEY_TARGET_NAME, deviceName},
-                {KEY_TARGET_ACTION, ACTION_TYPE_SETDO},
-                {QStringLiteral("index"), outputNameOf(manager, deviceId, ioIndex)},
-                {QStringLiteral("value"), textAt(output, {QStringLiteral("Val")})},
+                {TARGET_NAME, deviceName},
+                {TARGET_ACTION, ACTION_TYPE_SETDO},
+                {TARGET_INDEX, outputNameOf(manager, deviceId, ioIndex)},
+                {TARGET_VALUE, textAt(output, {QStringLiteral("Val")})},
                 {QStringLiteral("period"), integerOf(output.value(QStringLiteral("Period")))},
-                {KEY_CAMERA_ID, deviceId},
-                {QStringLiteral("ioIndex"), ioIndex},
+                {TARGET_CAMERA_ID, deviceId},
+                {TARGET_IO_INDEX, ioIndex},
             });
         }
     }
@@ -288,8 +282,8 @@ QString SetDOActionParser::ActionTargetToXml(const QVariant& actionTarget)
     const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = mapOf(targetValue);
-        deviceId = textAt(target, {KEY_CAMERA_ID});
-        outputs += DO_ENTRY.arg(textAt(target, {QStringLiteral("index")}), textAt(target, {QStringLiteral("value")}));
+        deviceId = textAt(target, {TARGET_CAMERA_ID});
+        outputs += DO_ENTRY.arg(textAt(target, {TARGET_INDEX}), textAt(target, {TARGET_VALUE}));
     }
     return ACTION_SETDO_MSG.arg(deviceId).arg(outputs);
 }
@@ -305,20 +299,20 @@ QMap<QString, QVariant> ClientNotifyGotoLiveStreamActionParser::XmlToActionModel
     // Only the exact text "true" counts; the "1" this plug-in writes reads as not set.
     if (textAt(popup, {QStringLiteral("IncludeTriggerCam")}) == QLatin1String("true")) {
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, triggerCameraText()},
-            {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, QString()},
-            {QStringLiteral("includeTriggerCam"), true},
+            {TARGET_NAME, triggerCameraText()},
+            {TARGET_ACTION, QString()},
+            {TARGET_CAMERA_ID, QString()},
+            {TARGET_INCLUDE_TRIGGER_CAM, true},
         });
     }
     const QVariantList cameras = transContentAsList(popup.value(QStringLiteral("Cam")));
     for (const QVariant& camera : cameras) {
         const QString camId = ownTextOf(camera);
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, displayNameOf(manager, camId)},
-            {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, camId},
-            {QStringLiteral("includeTriggerCam"), false},
+            {TARGET_NAME, displayNameOf(manager, camId)},
+            {TARGET_ACTION, QString()},
+            {TARGET_CAMERA_ID, camId},
+            {TARGET_INCLUDE_TRIGGER_CAM, false},
         });
     }
     return actionModel(ACTION_TYPE_CLIENTNOTIFY_GOTO_LIVESTREAM, targets);
@@ -334,10 +328,10 @@ QString ClientNotifyGotoLiveStreamActionParser::ActionTargetToXml(const QVariant
     const QVariantList targets = listOf(actionTarget);
     for (const QVariant& targetValue : targets) {
         const QVariantMap target = mapOf(targetValue);
-        if (textAt(target, {KEY_TARGET_NAME}) == triggerCamera)
+        if (textAt(target, {TARGET_NAME}) == triggerCamera)
             includesTriggerCamera = true;
         else
-            cameras += NOTIFI_CAM_ENTRY.arg(textAt(target, {KEY_CAMERA_ID}));
+            cameras += NOTIFI_CAM_ENTRY.arg(textAt(target, {TARGET_CAMERA_ID}));
     }
     // The flag is written as a number, which the decoder deliberately does not read as set.
     return ACTION_CLIENTNOTIFICATION_MSG.arg(includesTriggerCamera ? 1 : 0).arg(cameras);
@@ -355,10 +349,10 @@ QMap<QString, QVariant> ClientNotifyGotoEMapActionParser::XmlToActionModel(const
         const QString mapId = textAt(mapInfo, {QStringLiteral("MapId")});
         // Map ids carry a one-character kind prefix that the list does not show.
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, transformTargetName(mapId.mid(1))},
+            {TARGET_NAME, transformTargetName(mapId.mid(1))},
             {QStringLiteral("mapId"), mapId},
             {QStringLiteral("cameraList"), transContentAsList(mapInfo.value(QStringLiteral("PlayCam")))},
-            {KEY_TARGET_ACTION, QString()},
+            {TARGET_ACTION, QString()},
         });
     }
     return actionModel(ACTION_TYPE_CLIENTNOTIFY_GOTO_EMAP, targets);
@@ -385,7 +379,7 @@ QMap<QString, QVariant> ClientNotifySoundTheAlarmActionParser::XmlToActionModel(
     QVariantList targets;
     const QVariantList sounds = transContentAsList(sound.value(QStringLiteral("Sound")));
     for (const QVariant& soundName : sounds)
-        targets.append(QVariantMap{{KEY_TARGET_NAME, textOf(soundName)}, {KEY_TARGET_ACTION, QString()}});
+        targets.append(QVariantMap{{TARGET_NAME, textOf(soundName)}, {TARGET_ACTION, QString()}});
     return actionModel(ACTION_TYPE_CLIENTNOTIFY_SOUND_THE_ALARM, targets);
 }
 
@@ -405,9 +399,9 @@ QMap<QString, QVariant> AddBookmarkAlarmActionParser::XmlToActionModel(const QVa
         const QVariantMap camera = mapOf(cameraValue);
         // The rule stores the camera's name itself; no lookup.
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, textAt(camera, {QStringLiteral("CamRefName")})},
-            {KEY_TARGET_ACTION, QString()},
-            {KEY_CAMERA_ID, textAt(camera, {QStringLiteral("CamId")})},
+            {TARGET_NAME, textAt(camera, {QStringLiteral("CamRefName")})},
+            {TARGET_ACTION, QString()},
+            {TARGET_CAMERA_ID, textAt(camera, {QStringLiteral("CamId")})},
             {QStringLiteral("locId"), textAt(camera, {QStringLiteral("LocId")})},
             {QStringLiteral("duration"), textAt(camera, {QStringLiteral("Duration")})},
             {QStringLiteral("creator"), textAt(camera, {QStringLiteral("Creator")})},
@@ -432,8 +426,8 @@ QMap<QString, QVariant> PlayIPAudioAlarmActionParser::XmlToActionModel(const QVa
         const QVariantMap device = mapOf(deviceValue);
         // The file to play is what is done to the device, so it stands under "action".
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, textAt(device, {QStringLiteral("IPAudioName")})},
-            {KEY_TARGET_ACTION, textAt(device, {QStringLiteral("AudioFileName")})},
+            {TARGET_NAME, textAt(device, {QStringLiteral("IPAudioName")})},
+            {TARGET_ACTION, textAt(device, {QStringLiteral("AudioFileName")})},
             {QStringLiteral("fileId"), integerOf(device.value(QStringLiteral("AudioFileId")))},
             {QStringLiteral("ipAudioId"), integerOf(device.value(QStringLiteral("IPAudioId")))},
         });
@@ -453,9 +447,9 @@ QMap<QString, QVariant> MobileNotificationActionParser::XmlToActionModel(const Q
         mapAt(action, {ACTION_TYPE_MOBILENOTIFICATION, QStringLiteral("PushInfo")});
     if (booleanOf(pushInfo.value(QStringLiteral("PushAll")))) {
         const QVariantMap everyone{
-            {KEY_TARGET_NAME, QObject::tr("All roles")},
-            {KEY_TARGET_ACTION, QString()},
-            {QStringLiteral("pushAll"), true},
+            {TARGET_NAME, QObject::tr("All roles")},
+            {TARGET_ACTION, QString()},
+            {TARGET_PUSH_ALL, true},
         };
         return actionModel(ACTION_TYPE_MOBILENOTIFICATION, {everyone});
     }
@@ -466,9 +460,9 @@ QMap<QString, QVariant> MobileNotificationActionParser::XmlToActionModel(const Q
     for (const QVariant& roleIdText : roleIds) {
         const int roleId = integerOf(roleIdText);
         targets.append(QVariantMap{
-            {KEY_TARGET_NAME, roleNameOf(manager, roleId)},
-            {KEY_TARGET_ACTION, QString()},
-            {QStringLiteral("pushAll"), false},
+            {TARGET_NAME, roleNameOf(manager, roleId)},
+            {TARGET_ACTION, QString()},
+            {TARGET_PUSH_ALL, false},
             {QStringLiteral("roleId"), roleId},
         });
     }

@@ -9,32 +9,16 @@
 #include "VariantTree.h"
 
 using namespace ActionParserCommon;
+using namespace AlarmMessageParserCommon;
 
 // A list stored under a role or inside one; a text, which QVariant would split into characters, is none.
 using VariantTree::listOf;
 
 namespace {
 
-// Keys of the trigger maps the trigger codec builds and of the action target maps the action codecs build.
-const QString KEY_DEV_NAME = QStringLiteral("devName");
-const QString KEY_TRIGGER = QStringLiteral("trigger");
-const QString KEY_INDEX = QStringLiteral("index");
-const QString KEY_VALUE = QStringLiteral("value");
-const QString KEY_DIO_TYPE = QStringLiteral("typeDIO");
-const QString KEY_DISPLAY_VALUE = QStringLiteral("displayValue");
-const QString KEY_ACTION_TYPE = QStringLiteral("actionType");
-const QString KEY_ACTION_TARGET = QStringLiteral("actionTarget");
-const QString KEY_TARGET = QStringLiteral("target");
-const QString KEY_ACTION = QStringLiteral("action");
-const QString KEY_CC = QStringLiteral("cc");
-const QString KEY_POST = QStringLiteral("post");
-const QString KEY_IO_INDEX = QStringLiteral("ioIndex");
-const QString KEY_INCLUDE_TRIGGER_CAM = QStringLiteral("includeTriggerCam");
-const QString KEY_PUSH_ALL = QStringLiteral("pushAll");
-
-// The output kind of "typeDIO"; every other kind is an input.
+// The output kind of "typeDIO" in words (the trigger codec writes TRIGGER_DIO_TYPE_DO); every other kind is
+// an input.
 const QString IO_KIND_OUTPUT = QStringLiteral("DO");
-constexpr int IO_KIND_OUTPUT_NUMBER = 1;
 
 // The trigger the row's single trigger-type string stands for: the last one of that type (the codec writes
 // the type of the last trigger), or simply the last one when none carries the type.
@@ -42,7 +26,7 @@ QVariantMap triggerOfType(const QString& type, const QVariantList& sourceList)
 {
     for (auto it = sourceList.crbegin(); it != sourceList.crend(); ++it) {
         const QVariantMap trigger = it->toMap();
-        if (trigger.value(KEY_TRIGGER).toString() == type)
+        if (trigger.value(TRIGGER_TYPE).toString() == type)
             return trigger;
     }
     return sourceList.isEmpty() ? QVariantMap() : sourceList.constLast().toMap();
@@ -50,8 +34,8 @@ QVariantMap triggerOfType(const QString& type, const QVariantList& sourceList)
 
 bool isOutput(const QVariantMap& trigger)
 {
-    const QVariant kind = trigger.value(KEY_DIO_TYPE);
-    return kind.toString() == IO_KIND_OUTPUT || (kind.toInt() == IO_KIND_OUTPUT_NUMBER);
+    const QVariant kind = trigger.value(TRIGGER_DIO_TYPE);
+    return kind.toString() == IO_KIND_OUTPUT || (kind.toInt() == TRIGGER_DIO_TYPE_DO);
 }
 
 bool isNumber(const QString& text)
@@ -170,7 +154,7 @@ bool isIOBoxTriggerType(const QString& type)
 QString translatedTriggerTypeWithIOBox(const QVariantList& sourceList)
 {
     QVariantMap trigger = triggerOfType(QStringLiteral("ExtIODevice"), sourceList);
-    if (!trigger.contains(KEY_DIO_TYPE))
+    if (!trigger.contains(TRIGGER_DIO_TYPE))
         trigger = triggerOfType(QStringLiteral("DIOStatus"), sourceList);
     return isOutput(trigger) ? QObject::tr("DI/DO Device DO") : QObject::tr("DI/DO Device DI");
 }
@@ -185,7 +169,7 @@ QString translatedTriggerTypeWithSourceValue(const QString& type, const QVariant
     if (type == QLatin1String("GpsSpeed"))
         return QObject::tr("Speeding");
 
-    const QString value = triggerOfType(type, sourceList).value(KEY_VALUE).toString();
+    const QString value = triggerOfType(type, sourceList).value(TRIGGER_VALUE).toString();
     if (type == QLatin1String("VideoLossRestore")) {
         // The camera codec carries the numeric "Type" of the video-loss element; the words are accepted too.
         return textForValue(value, {{"0", QT_TRANSLATE_NOOP("QObject", "Video loss")},
@@ -240,9 +224,9 @@ namespace {
 
 QString triggerSourceDisplayValue(const QVariantMap& trigger)
 {
-    QString type = trigger.value(KEY_TRIGGER).toString();
-    const QString index = trigger.value(KEY_INDEX).toString();
-    const QString value = trigger.value(KEY_VALUE).toString();
+    QString type = trigger.value(TRIGGER_TYPE).toString();
+    const QString index = trigger.value(TRIGGER_INDEX).toString();
+    const QString value = trigger.value(TRIGGER_VALUE).toString();
 
     if (type == QLatin1String("DI"))
         return QObject::tr("DI-%1").arg(index);
@@ -281,8 +265,8 @@ QVariantList translatedTriggerSourceType(const QVariantList& sourceList)
     display.reserve(sourceList.size());
     for (const QVariant& source : sourceList) {
         const QVariantMap trigger = source.toMap();
-        display.append(QVariantMap{{KEY_DEV_NAME, trigger.value(KEY_DEV_NAME).toString()},
-                                   {KEY_DISPLAY_VALUE, triggerSourceDisplayValue(trigger)}});
+        display.append(QVariantMap{{TRIGGER_DEV_NAME, trigger.value(TRIGGER_DEV_NAME).toString()},
+                                   {TRIGGER_DISPLAY_VALUE, triggerSourceDisplayValue(trigger)}});
     }
     return display;
 }
@@ -309,7 +293,7 @@ QVariantList translatedActionType(const QVariantList& typeList)
     display.reserve(typeList.size());
     for (const QVariant& element : typeList) {
         // Whole action models are accepted as well as their type strings.
-        const QString type = element.typeId() == QMetaType::QVariantMap ? element.toMap().value(KEY_ACTION_TYPE).toString()
+        const QString type = element.typeId() == QMetaType::QVariantMap ? element.toMap().value(ACTION_MODEL_TYPE).toString()
                                                                         : element.toString();
         QString text = type; // an action type of a newer server is shown as it is called
         for (const auto& entry : table) {
@@ -329,35 +313,35 @@ QVariantMap actionTargetDisplay(const QVariantMap& target)
 {
     // The kind of action is read from the target's own keys, so the texts stay right even if the type list
     // beside it were out of step.
-    QString targetText = target.value(KEY_TARGET).toString();
-    QString actionText = target.value(KEY_ACTION).toString();
+    QString targetText = target.value(TARGET_NAME).toString();
+    QString actionText = target.value(TARGET_ACTION).toString();
 
-    if (target.contains(KEY_CC)) {
+    if (target.contains(TARGET_CC)) {
         // Mail: recipients and copies.
-        const QString cc = target.value(KEY_CC).toString();
+        const QString cc = target.value(TARGET_CC).toString();
         targetText = QObject::tr("To: %1").arg(targetText);
         actionText = cc.isEmpty() ? QString() : QObject::tr("Cc: %1").arg(cc);
     } else if (actionText == ACTION_TYPE_SETDO) {
-        QString output = target.value(KEY_INDEX).toString();
+        QString output = target.value(TARGET_INDEX).toString();
         if (output.isEmpty())
-            output = QObject::tr("DO-%1").arg(target.value(KEY_IO_INDEX).toInt());
-        const QString value = target.value(KEY_VALUE).toString();
+            output = QObject::tr("DO-%1").arg(target.value(TARGET_IO_INDEX).toInt());
+        const QString value = target.value(TARGET_VALUE).toString();
         if (value == QLatin1String("1") || value == QLatin1String("Trigger"))
             actionText = QObject::tr("Set %1 to Trigger").arg(output);
         else if (value == QLatin1String("0") || value == QLatin1String("Normal"))
             actionText = QObject::tr("Set %1 to Normal").arg(output);
         else
             actionText = QObject::tr("Set %1 to %2").arg(output, value);
-    } else if (target.contains(KEY_POST)) {
+    } else if (target.contains(TARGET_POST)) {
         // HTTP: the method label was written in English by the decoder.
-        targetText = target.value(KEY_POST).toBool() ? QObject::tr("POST Method") : QObject::tr("GET Method");
-    } else if (target.value(KEY_INCLUDE_TRIGGER_CAM).toBool()) {
+        targetText = target.value(TARGET_POST).toBool() ? QObject::tr("POST Method") : QObject::tr("GET Method");
+    } else if (target.value(TARGET_INCLUDE_TRIGGER_CAM).toBool()) {
         // Decoded under the language of that moment; shown in the current one.
         targetText = QObject::tr("Event triggering camera");
-    } else if (target.value(KEY_PUSH_ALL).toBool()) {
+    } else if (target.value(TARGET_PUSH_ALL).toBool()) {
         targetText = QObject::tr("All roles");
     }
-    return QVariantMap{{KEY_TARGET, targetText}, {KEY_ACTION, actionText}};
+    return QVariantMap{{TARGET_NAME, targetText}, {TARGET_ACTION, actionText}};
 }
 
 } // namespace
@@ -368,7 +352,7 @@ QVariantList translatedActionTarget(const QVariantList& targetList)
     display.reserve(targetList.size());
     for (const QVariant& element : targetList) {
         const QVariantList targets = element.typeId() == QMetaType::QVariantMap
-                                         ? listOf(element.toMap().value(KEY_ACTION_TARGET))
+                                         ? listOf(element.toMap().value(ACTION_MODEL_TARGET))
                                          : listOf(element);
         QVariantList actionDisplay;
         actionDisplay.reserve(targets.size());

@@ -811,7 +811,7 @@ void AlarmMessageParser::ParseActionData(const QMap<QString, QVariant>& rule, QL
         if (!parser)
             continue;
         const QVariantMap model = parser->XmlToActionModel(action, m_owner);
-        actionTypes.append(model.value(QStringLiteral("actionType")).toString());
-        actionTargets.append(QVariant(model.value(QStringLiteral("actionTarget")).toList()));
+        actionTypes.append(model.value(ActionParserCommon::ACTION_MODEL_TYPE).toString());
+        actionTargets.append(QVariant(model.value(ActionParserCommon::ACTION_MODEL_TARGET).toList()));
     }
 }

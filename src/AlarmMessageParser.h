@@ -6,29 +6,10 @@
 #include <QString>
 #include <QVariant>
 
+#include "stdafx.h"
+
 class PluginAlarmManager;
 class QStandardItem;
-
-// Keys of one trigger map, as the display proxy and QML read them.
-namespace AlarmMessageParserCommon {
-const QString TRIGGER_DEV_REALNAME = QStringLiteral("devRealName");
-const QString TRIGGER_DEV_NAME = QStringLiteral("devName");
-const QString TRIGGER_TYPE = QStringLiteral("trigger");
-const QString TRIGGER_LATENCY = QStringLiteral("latency");
-const QString TRIGGER_INDEX = QStringLiteral("index");
-const QString TRIGGER_VALUE = QStringLiteral("value");
-const QString TRIGGER_DIO_TYPE = QStringLiteral("typeDIO");
-const QString TRIGGER_IO_INDEX = QStringLiteral("ioIndex");
-const QString TRIGGER_REMAINING_PEOPLE = QStringLiteral("remainingPeople");
-const QString TRIGGER_COMPARISON = QStringLiteral("comparison");
-const QString TRIGGER_MATCHING_TYPE = QStringLiteral("matchingType");
-const QString TRIGGER_CASE_INSENSITIVE = QStringLiteral("caseInsensitive");
-const QString TRIGGER_CONDITION_LIST = QStringLiteral("conditionListString");
-const QString TRIGGER_ICON_TYPE = QStringLiteral("iconType");
-
-// Values of TRIGGER_DIO_TYPE: whether a digital I/O trigger watches an input or an output.
-enum TriggerDioType { TRIGGER_DIO_TYPE_DI = 0, TRIGGER_DIO_TYPE_DO = 1 };
-} // namespace AlarmMessageParserCommon
 
 // The codec between the server's alarm documents and the rows of AlarmModel. createAlarmItemList calls
 // the three parse operations through this interface, so a derived parser may replace any of them.

@@ -4,16 +4,14 @@
 
 #include "AlarmModel.h"
 #include "VariantTree.h"
+#include "stdafx.h"
 
 // A list stored under a role or inside one; a text, which QVariant would split into characters, is none.
 using VariantTree::listOf;
+using namespace ActionParserCommon;
+using namespace AlarmMessageParserCommon;
 
 namespace {
-
-const QString KEY_DEV_NAME = QStringLiteral("devName");
-const QString KEY_DISPLAY_VALUE = QStringLiteral("displayValue");
-const QString KEY_TARGET = QStringLiteral("target");
-const QString KEY_ACTION = QStringLiteral("action");
 
 // Stands between the texts of one row in its search text; a keyword holding it is matched text by text.
 constexpr QChar SEARCH_SEPARATOR = QChar(0x1F);
@@ -24,7 +22,7 @@ QStringList triggerSourceTexts(const QVariantList& list)
     QStringList texts;
     for (const QVariant& element : list) {
         const QVariantMap source = element.toMap();
-        texts << source.value(KEY_DEV_NAME).toString() << source.value(KEY_DISPLAY_VALUE).toString();
+        texts << source.value(TRIGGER_DEV_NAME).toString() << source.value(TRIGGER_DISPLAY_VALUE).toString();
     }
     return texts;
 }
@@ -45,7 +43,7 @@ QStringList actionTargetTexts(const QVariantList& list)
         const QVariantList targets = listOf(element);
         for (const QVariant& targetElement : targets) {
             const QVariantMap target = targetElement.toMap();
-            texts << target.value(KEY_TARGET).toString() << target.value(KEY_ACTION).toString();
+            texts << target.value(TARGET_NAME).toString() << target.value(TARGET_ACTION).toString();
         }
     }
     return texts;
@@ -63,7 +61,7 @@ QStringList triggerSourceKey(const QVariantList& list)
     // Only the first source names the rule's origin in the list; the rest do not take part.
     if (list.isEmpty())
         return {};
-    return {list.constFirst().toMap().value(KEY_DEV_NAME).toString()};
+    return {list.constFirst().toMap().value(TRIGGER_DEV_NAME).toString()};
 }
 
 QStringList actionTargetKey(const QVariantList& list)
@@ -72,7 +70,7 @@ QStringList actionTargetKey(const QVariantList& list)
     key.reserve(list.size());
     for (const QVariant& element : list) {
         const QVariantList targets = listOf(element);
-        key << (targets.isEmpty() ? QString() : targets.constFirst().toMap().value(KEY_TARGET).toString());
+        key << (targets.isEmpty() ? QString() : targets.constFirst().toMap().value(TARGET_NAME).toString());
     }
     return key;
 }

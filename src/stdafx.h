@@ -1,6 +1,6 @@
 #pragma once
 
-// The protocol's vocabulary: every method, event, argument key and plug-in id the plug-in exchanges with
+// The protocol's vocabulary: every method, event, argument key, model map key and plug-in id the plug-in exchanges with
 // the host. Comparisons against these are exact and case-sensitive; nothing else repeats these strings.
 // Namespace-scope const objects have internal linkage, so each source file gets its own copy, built at load.
 
@@ -23,7 +23,45 @@ namespace ActionParserCommon {
     const QString ACTION_TYPE_ADDBOOKMARK                  = QStringLiteral("AddBookmark");
     const QString ACTION_TYPE_PLAYIPAUDIO                  = QStringLiteral("PlayIPAudio");
     const QString ACTION_TYPE_MOBILENOTIFICATION           = QStringLiteral("MobileNotification");
+
+// Keys of the action model the codecs build ("actionType", "actionTarget") and of its target maps, as the
+// editor, the display proxy and the filter proxy read them.
+    const QString ACTION_MODEL_TYPE          = QStringLiteral("actionType");
+    const QString ACTION_MODEL_TARGET        = QStringLiteral("actionTarget");
+    const QString TARGET_NAME                = QStringLiteral("target");
+    const QString TARGET_ACTION              = QStringLiteral("action");
+    const QString TARGET_CAMERA_ID           = QStringLiteral("camId");
+    const QString TARGET_CC                  = QStringLiteral("cc");
+    const QString TARGET_POST                = QStringLiteral("post");
+    const QString TARGET_INDEX               = QStringLiteral("index");
+    const QString TARGET_IO_INDEX            = QStringLiteral("ioIndex");
+    const QString TARGET_VALUE               = QStringLiteral("value");
+    const QString TARGET_INCLUDE_TRIGGER_CAM = QStringLiteral("includeTriggerCam");
+    const QString TARGET_PUSH_ALL            = QStringLiteral("pushAll");
 } // namespace ActionParserCommon
+
+namespace AlarmMessageParserCommon {
+// Keys of one trigger map, as the trigger codec builds it and the display proxy and QML read it.
+    const QString TRIGGER_DEV_REALNAME     = QStringLiteral("devRealName");
+    const QString TRIGGER_DEV_NAME         = QStringLiteral("devName");
+    const QString TRIGGER_TYPE             = QStringLiteral("trigger");
+    const QString TRIGGER_LATENCY          = QStringLiteral("latency");
+    const QString TRIGGER_INDEX            = QStringLiteral("index");
+    const QString TRIGGER_VALUE            = QStringLiteral("value");
+    const QString TRIGGER_DIO_TYPE         = QStringLiteral("typeDIO");
+    const QString TRIGGER_IO_INDEX         = QStringLiteral("ioIndex");
+    const QString TRIGGER_REMAINING_PEOPLE = QStringLiteral("remainingPeople");
+    const QString TRIGGER_COMPARISON       = QStringLiteral("comparison");
+    const QString TRIGGER_MATCHING_TYPE    = QStringLiteral("matchingType");
+    const QString TRIGGER_CASE_INSENSITIVE = QStringLiteral("caseInsensitive");
+    const QString TRIGGER_CONDITION_LIST   = QStringLiteral("conditionListString");
+    const QString TRIGGER_ICON_TYPE        = QStringLiteral("iconType");
+// The display proxy's trigger source map carries TRIGGER_DEV_NAME and this text.
+    const QString TRIGGER_DISPLAY_VALUE    = QStringLiteral("displayValue");
+
+// Values of TRIGGER_DIO_TYPE: whether a digital I/O trigger watches an input or an output.
+    enum TriggerDioType { TRIGGER_DIO_TYPE_DI = 0, TRIGGER_DIO_TYPE_DO = 1 };
+} // namespace AlarmMessageParserCommon
 
 namespace PluginAlarmManagerCommon {
 // Request methods; the last four also arrive as server-pushed event names.
