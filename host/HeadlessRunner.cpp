@@ -4,6 +4,7 @@
 #include "HostFramework.h"
 #include "Site.h"
 #include "SimulatedServer.h"
+#include "stdafx.h"
 
 #include <QAbstractItemModel>
 #include <QEventLoop>
@@ -12,6 +13,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <unistd.h>
 
@@ -61,6 +63,20 @@ QString joinedText(const QString& first, const QString& second)
     return (first + QLatin1Char(' ') + second).trimmed();
 }
 
+// Calls one of the plug-in's request invokables; true when the plug-in sent the request.
+template <typename... Arguments>
+bool sendRequest(QObject* plugin, const char* method, Arguments... arguments)
+{
+    bool isSent = false;
+    QMetaObject::invokeMethod(plugin, method, Qt::DirectConnection, Q_RETURN_ARG(bool, isSent), arguments...);
+    return isSent;
+}
+
+QJsonObject signalAsJson(const QString& name, const QVariantList& arguments)
+{
+    return QJsonObject{{QStringLiteral("signal"), name}, {QStringLiteral("arguments"), jsonValue(arguments)}};
+}
+
 } // namespace
 
 HeadlessRunner::HeadlessRunner(AlarmHost* host, Script script, QObject* parent)
@@ -106,6 +122,14 @@ bool HeadlessRunner::waitFor(const QString& signalName, QVariantList* arguments)
     return true;
 }
 
+bool HeadlessRunner::awaitAnswer(bool isSent, const QString& answerSignal, Step* step, QVariantList* arguments)
+{
+    if (isSent && waitFor(answerSignal, arguments))
+        return true;
+    step->details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
+    return false;
+}
+
 void HeadlessRunner::settle()
 {
     // Answers still on their way (and the events behind them) belong to this run's output.
@@ -130,23 +154,46 @@ int HeadlessRunner::run()
         return 2;
     }
     m_isPrintingLive = m_script.isWatching && m_script.isJson;
+    if (!waitForFirstList())
+        return 3;
+    const QList<Step> steps = runSteps();
+    QString viewError;
+    if (!applyView(&viewError)) {
+        err() << viewError << '\n';
+        return 2;
+    }
+    if (m_script.isJson)
+        printJson(steps);
+    else
+        printText(steps);
+    out().flush();
+    if (m_script.isWatching)
+        return watch();
+    const bool isEveryStepDone =
+        std::all_of(steps.cbegin(), steps.cend(), [](const Step& step) { return step.isSuccess; });
+    return isEveryStepDone ? 0 : 1;
+}
 
+bool HeadlessRunner::waitForFirstList()
+{
+    // The plug-in asks for the list when the server link comes up.
     QVariantList arguments;
-    // The first list: the plug-in asks for it when the server link comes up.
     if (!waitFor(QStringLiteral("getAlarmResp"), &arguments)) {
         err() << "No alarm list arrived (getAlarmResp) within " << m_script.timeoutMs << " ms.\n";
-        return 3;
+        return false;
     }
     if (arguments.value(0).toBool() == false) {
         err() << "The alarm list could not be loaded (getAlarmResp(false)).\n";
-        return 3;
+        return false;
     }
+    return true;
+}
 
+QList<HeadlessRunner::Step> HeadlessRunner::runSteps()
+{
     QList<Step> steps;
-    for (const QString& id : std::as_const(m_script.concurrentEdits)) {
-        Step step{QStringLiteral("concurrentEdit"), id, m_host->server()->editElsewhere(id), {}};
-        steps.append(step);
-    }
+    for (const QString& id : std::as_const(m_script.concurrentEdits))
+        steps.append(Step{QStringLiteral("concurrentEdit"), id, m_host->server()->editElsewhere(id), {}});
     if (!m_script.concurrentEdits.isEmpty())
         settle();
     for (const QString& json : std::as_const(m_script.additions))
@@ -162,51 +209,46 @@ int HeadlessRunner::run()
     for (const QString& choice : std::as_const(m_script.fires))
         steps.append(fire(choice));
     settle();
+    return steps;
+}
 
+bool HeadlessRunner::applyView(QString* errorText)
+{
     if (!m_script.filter.isEmpty())
         QMetaObject::invokeMethod(m_model, "applyFilter", Qt::DirectConnection, Q_ARG(QString, m_script.filter));
-    QString sortError;
-    if (!m_script.sort.isEmpty() && !applySort(m_script.sort, &sortError)) {
-        err() << sortError << '\n';
-        return 2;
+    return m_script.sort.isEmpty() || applySort(m_script.sort, errorText);
+}
+
+void HeadlessRunner::printJson(const QList<Step>& steps) const
+{
+    // Watching prints the signals one by one instead.
+    if (m_script.isWatching)
+        return;
+    QJsonArray stepArray;
+    for (const Step& step : steps) {
+        QJsonObject object = step.details;
+        object.insert(QStringLiteral("step"), step.kind);
+        object.insert(QStringLiteral("subject"), step.subject);
+        object.insert(QStringLiteral("success"), step.isSuccess);
+        stepArray.append(object);
     }
-
-    bool isEveryStepDone = true;
-    for (const Step& step : std::as_const(steps))
-        isEveryStepDone = isEveryStepDone && step.isSuccess;
-
-    if (m_script.isJson) {
-        QJsonArray stepArray;
-        for (const Step& step : std::as_const(steps)) {
-            QJsonObject object = step.details;
-            object.insert(QStringLiteral("step"), step.kind);
-            object.insert(QStringLiteral("subject"), step.subject);
-            object.insert(QStringLiteral("success"), step.isSuccess);
-            stepArray.append(object);
-        }
-        QJsonArray signalArray;
-        for (const auto& signal : std::as_const(m_signals))
-            signalArray.append(QJsonObject{{QStringLiteral("signal"), signal.first},
-                                           {QStringLiteral("arguments"), jsonValue(signal.second)}});
-        QJsonObject document{{QStringLiteral("site"), m_host->site()->name()},
-                             {QStringLiteral("steps"), stepArray},
-                             {QStringLiteral("signals"), signalArray}};
-        if (m_script.isListing) {
-            const QJsonArray alarms = listAsJson();
-            document.insert(QStringLiteral("count"), alarms.size());
-            document.insert(QStringLiteral("alarms"), alarms);
-        }
-        if (!m_script.isWatching)
-            out() << QJsonDocument(document).toJson(QJsonDocument::Indented);
-    } else {
-        printText(steps);
+    QJsonArray signalArray;
+    for (const auto& signal : std::as_const(m_signals))
+        signalArray.append(signalAsJson(signal.first, signal.second));
+    QJsonObject document{{QStringLiteral("site"), m_host->site()->name()},
+                         {QStringLiteral("steps"), stepArray},
+                         {QStringLiteral("signals"), signalArray}};
+    if (m_script.isListing) {
+        const QJsonArray alarms = listAsJson();
+        document.insert(QStringLiteral("count"), alarms.size());
+        document.insert(QStringLiteral("alarms"), alarms);
     }
-    out().flush();
+    out() << QJsonDocument(document).toJson(QJsonDocument::Indented);
+}
 
-    if (!m_script.isWatching)
-        return isEveryStepDone ? 0 : 1;
-
-    // Watching: signals as they come, and a few commands from stdin.
+int HeadlessRunner::watch()
+{
+    // Signals as they come, and a few commands from stdin.
     m_isPrintingLive = true;
     if (!m_script.isJson)
         out() << "Watching the plug-in's signals. Commands: fire NAME | list | reload | quit\n";
@@ -220,25 +262,31 @@ int HeadlessRunner::run()
             loop.quit();
             return;
         }
-        const QString command = QString::fromLocal8Bit(line).trimmed();
-        if (command == QLatin1String("quit")) {
+        if (!runCommand(QString::fromLocal8Bit(line).trimmed()))
             loop.quit();
-        } else if (command == QLatin1String("list")) {
-            printText({});
-        } else if (command == QLatin1String("reload")) {
-            m_host->reconnect();
-        } else if (command.startsWith(QLatin1String("fire "))) {
-            const Step step = fire(command.mid(5).trimmed());
-            if (!step.isSuccess)
-                err() << "fire: " << step.details.value(QStringLiteral("error")).toString() << '\n';
-        } else if (!command.isEmpty()) {
-            err() << "unknown command: " << command << '\n';
-        }
         out().flush();
         err().flush();
     });
     loop.exec();
     return 0;
+}
+
+bool HeadlessRunner::runCommand(const QString& command)
+{
+    if (command == QLatin1String("quit"))
+        return false;
+    if (command == QLatin1String("list")) {
+        printText({});
+    } else if (command == QLatin1String("reload")) {
+        m_host->reconnect();
+    } else if (command.startsWith(QLatin1String("fire "))) {
+        const Step step = fire(command.mid(5).trimmed());
+        if (!step.isSuccess)
+            err() << "fire: " << step.details.value(QStringLiteral("error")).toString() << '\n';
+    } else if (!command.isEmpty()) {
+        err() << "unknown command: " << command << '\n';
+    }
+    return true;
 }
 
 HeadlessRunner::Step HeadlessRunner::addAlarm(const QString& json)
@@ -257,17 +305,14 @@ HeadlessRunner::Step HeadlessRunner::addAlarm(const QString& json)
     const QString actionXml = rule.contains(QLatin1String("actionXml"))
         ? rule.value(QLatin1String("actionXml")).toString()
         : m_host->site()->actionListXml(rule.value(QLatin1String("actions")).toArray().toVariantList());
-    bool isSent = false;
-    QMetaObject::invokeMethod(m_host->plugin(), "addAlarm", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
-                              Q_ARG(QString, name), Q_ARG(QString, rule.value(QLatin1String("description")).toString()),
-                              Q_ARG(QString, triggerXml), Q_ARG(QString, actionXml), Q_ARG(QString, QString()),
-                              Q_ARG(QString, schedule), Q_ARG(QString, scheduleContent),
-                              Q_ARG(bool, rule.value(QLatin1String("enabled")).toBool(true)));
+    const bool isSent = sendRequest(
+        m_host->plugin(), "addAlarm", Q_ARG(QString, name),
+        Q_ARG(QString, rule.value(QLatin1String("description")).toString()), Q_ARG(QString, triggerXml),
+        Q_ARG(QString, actionXml), Q_ARG(QString, QString()), Q_ARG(QString, schedule), Q_ARG(QString, scheduleContent),
+        Q_ARG(bool, rule.value(QLatin1String("enabled")).toBool(true)));
     QVariantList arguments;
-    if (!isSent || !waitFor(QStringLiteral("addAlarmResp"), &arguments)) {
-        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
+    if (!awaitAnswer(isSent, QStringLiteral("addAlarmResp"), &step, &arguments))
         return step;
-    }
     step.isSuccess = arguments.value(0).toBool();
     step.details.insert(QStringLiteral("id"), arguments.value(1).toString());
     return step;
@@ -295,20 +340,16 @@ HeadlessRunner::Step HeadlessRunner::editAlarm(const QString& json)
     const QString actionXml = edit.contains(QLatin1String("actions"))
         ? m_host->site()->actionListXml(edit.value(QLatin1String("actions")).toArray().toVariantList())
         : rowValue(row, "actionXmlRole").toString();
-    bool isSent = false;
-    QMetaObject::invokeMethod(
-        m_host->plugin(), "updateAlarm", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent), Q_ARG(QString, id),
+    const bool isSent = sendRequest(
+        m_host->plugin(), "updateAlarm", Q_ARG(QString, id),
         Q_ARG(QString, edit.value(QLatin1String("name")).toString(rowValue(row, "nameRole").toString())),
         Q_ARG(QString, edit.value(QLatin1String("description")).toString(rowValue(row, "descriptionRole").toString())),
         Q_ARG(QString, triggerXml), Q_ARG(QString, actionXml), Q_ARG(QString, QString()), Q_ARG(QString, scheduleName),
         Q_ARG(QString, scheduleContent),
         Q_ARG(bool, edit.value(QLatin1String("enabled")).toBool(rowValue(row, "enabledRole").toBool())));
     QVariantList arguments;
-    if (!isSent || !waitFor(QStringLiteral("updateAlarmResp"), &arguments)) {
-        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
-        return step;
-    }
-    step.isSuccess = arguments.value(0).toBool();
+    if (awaitAnswer(isSent, QStringLiteral("updateAlarmResp"), &step, &arguments))
+        step.isSuccess = arguments.value(0).toBool();
     return step;
 }
 
@@ -318,15 +359,10 @@ HeadlessRunner::Step HeadlessRunner::toggleAlarm(const QString& choice)
     const bool isEnabled = choice.section(QLatin1Char(':'), 1) != QLatin1String("off");
     Step step{QStringLiteral("toggle"), choice, false, {}};
     const QVariantList configuration{QVariantMap{{QStringLiteral("id"), id}, {QStringLiteral("enable"), isEnabled}}};
-    bool isSent = false;
-    QMetaObject::invokeMethod(m_host->plugin(), "toggleAlarm", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
-                              Q_ARG(QVariantList, configuration));
+    const bool isSent = sendRequest(m_host->plugin(), "toggleAlarm", Q_ARG(QVariantList, configuration));
     QVariantList arguments;
-    if (!isSent || !waitFor(QStringLiteral("toggleAlarmResp"), &arguments)) {
-        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
-        return step;
-    }
-    step.isSuccess = arguments.value(0).toBool();
+    if (awaitAnswer(isSent, QStringLiteral("toggleAlarmResp"), &step, &arguments))
+        step.isSuccess = arguments.value(0).toBool();
     return step;
 }
 
@@ -338,15 +374,10 @@ HeadlessRunner::Step HeadlessRunner::deleteAlarm(const QString& id)
         step.details.insert(QStringLiteral("error"), QStringLiteral("no such alarm"));
         return step;
     }
-    bool isSent = false;
-    QMetaObject::invokeMethod(m_host->plugin(), "deleteAlarms", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
-                              Q_ARG(QVariantList, QVariantList{row}));
+    const bool isSent = sendRequest(m_host->plugin(), "deleteAlarms", Q_ARG(QVariantList, QVariantList{row}));
     QVariantList arguments;
-    if (!isSent || !waitFor(QStringLiteral("deleteAlarmsResp"), &arguments)) {
-        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
-        return step;
-    }
-    step.isSuccess = arguments.value(0).toInt() == 1 && arguments.value(1).toInt() == 1;
+    if (awaitAnswer(isSent, QStringLiteral("deleteAlarmsResp"), &step, &arguments))
+        step.isSuccess = arguments.value(0).toInt() == 1 && arguments.value(1).toInt() == 1;
     return step;
 }
 
@@ -356,16 +387,11 @@ HeadlessRunner::Step HeadlessRunner::updateSchedule(const QString& choice)
     Step step{QStringLiteral("schedule"), choice, false, {}};
     const QString oldName = choice.section(QLatin1Char(':'), 0, 0);
     const QString newName = choice.section(QLatin1Char(':'), 1);
-    bool isSent = false;
-    QMetaObject::invokeMethod(m_host->plugin(), "updateAlarmSchedule", Qt::DirectConnection, Q_RETURN_ARG(bool, isSent),
-                              Q_ARG(QString, oldName), Q_ARG(QString, newName),
-                              Q_ARG(QString, m_host->site()->scheduleContent(newName)));
+    const bool isSent = sendRequest(m_host->plugin(), "updateAlarmSchedule", Q_ARG(QString, oldName),
+                                    Q_ARG(QString, newName), Q_ARG(QString, m_host->site()->scheduleContent(newName)));
     QVariantList arguments;
-    if (!isSent || !waitFor(QStringLiteral("updateAllAlarmScheduleResp"), &arguments)) {
-        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
-        return step;
-    }
-    step.isSuccess = arguments.value(0).toBool();
+    if (awaitAnswer(isSent, QStringLiteral("updateAllAlarmScheduleResp"), &step, &arguments))
+        step.isSuccess = arguments.value(0).toBool();
     return step;
 }
 
@@ -380,16 +406,13 @@ HeadlessRunner::Step HeadlessRunner::fire(const QString& choice)
     const qsizetype firstSignal = m_signals.size();
     const bool isSent = m_host->fireVirtualTrigger(trigger);
     QVariantList arguments;
-    if (!isSent || !waitFor(QStringLiteral("sendVirtualTriggerAlarmResp"), &arguments)) {
-        step.details.insert(QStringLiteral("error"), isSent ? QStringLiteral("no answer") : QStringLiteral("not sent"));
+    if (!awaitAnswer(isSent, QStringLiteral("sendVirtualTriggerAlarmResp"), &step, &arguments))
         return step;
-    }
     step.isSuccess = arguments.value(0).toBool();
     settle();
     QJsonArray followed;
     for (qsizetype i = firstSignal; i < m_signals.size(); ++i)
-        followed.append(QJsonObject{{QStringLiteral("signal"), m_signals.at(i).first},
-                                    {QStringLiteral("arguments"), jsonValue(m_signals.at(i).second)}});
+        followed.append(signalAsJson(m_signals.at(i).first, m_signals.at(i).second));
     step.details.insert(QStringLiteral("camera"), trigger.cameraId);
     step.details.insert(QStringLiteral("signals"), followed);
     if (!m_isPrintingLive && !m_script.isJson) {
@@ -442,8 +465,8 @@ QJsonArray HeadlessRunner::listAsJson() const
         QJsonArray triggers;
         for (const QVariant& source : rowValue(row, "triggerSourceRole").toList()) {
             const QVariantMap map = source.toMap();
-            triggers.append(joinedText(map.value(QStringLiteral("devName")).toString(),
-                                       map.value(QStringLiteral("displayValue")).toString()));
+            triggers.append(joinedText(map.value(AlarmMessageParserCommon::TRIGGER_DEV_NAME).toString(),
+                                       map.value(AlarmMessageParserCommon::TRIGGER_DISPLAY_VALUE).toString()));
         }
         QJsonArray actions;
         const QVariantList actionTypes = rowValue(row, "actionTypeRole").toList();
@@ -452,8 +475,8 @@ QJsonArray HeadlessRunner::listAsJson() const
             QJsonArray targets;
             for (const QVariant& target : actionTargets.value(i).toList()) {
                 const QVariantMap map = target.toMap();
-                targets.append(joinedText(map.value(QStringLiteral("target")).toString(),
-                                          map.value(QStringLiteral("action")).toString()));
+                targets.append(joinedText(map.value(ActionParserCommon::TARGET_NAME).toString(),
+                                          map.value(ActionParserCommon::TARGET_ACTION).toString()));
             }
             actions.append(QJsonObject{{QStringLiteral("type"), actionTypes.at(i).toString()},
                                        {QStringLiteral("targets"), targets}});
@@ -521,10 +544,7 @@ void HeadlessRunner::printText(const QList<Step>& steps) const
 void HeadlessRunner::printSignal(const QString& name, const QVariantList& arguments) const
 {
     if (m_script.isJson) {
-        out() << QJsonDocument(QJsonObject{{QStringLiteral("signal"), name},
-                                           {QStringLiteral("arguments"), jsonValue(arguments)}})
-                     .toJson(QJsonDocument::Compact)
-              << '\n';
+        out() << QJsonDocument(signalAsJson(name, arguments)).toJson(QJsonDocument::Compact) << '\n';
     } else {
         out() << "signal " << name << ' ' << compact(jsonValue(arguments)) << '\n';
     }

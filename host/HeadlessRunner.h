@@ -50,7 +50,16 @@ private:
         QJsonObject details;
     };
 
+    bool waitForFirstList();
+    QList<Step> runSteps();
+    bool applyView(QString* errorText);
+    int watch();
+    bool runCommand(const QString& command);
+
     bool waitFor(const QString& signalName, QVariantList* arguments);
+    // The answer to a request: true with its arguments, or false with the step's error when the plug-in did
+    // not send the request or no answer came.
+    bool awaitAnswer(bool isSent, const QString& answerSignal, Step* step, QVariantList* arguments);
     void settle();
     Step addAlarm(const QString& json);
     Step editAlarm(const QString& json);
@@ -63,6 +72,7 @@ private:
     int rowOfId(const QString& id) const;
     QVariant rowValue(int row, const char* roleName) const;
     QJsonArray listAsJson() const;
+    void printJson(const QList<Step>& steps) const;
     void printText(const QList<Step>& steps) const;
     void printSignal(const QString& name, const QVariantList& arguments) const;
 
