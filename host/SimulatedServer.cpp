@@ -141,6 +141,82 @@ QString encoded(const QString& text)
     return QString::fromLatin1(QUrl::toPercentEncoding(text));
 }
 
+// Whether a trigger list holds the virtual trigger of this camera, named by id or by name.
+bool holdsVirtualTrigger(const QString& triggerListXml, const QString& camera, const QString& triggerId,
+                         const QString& name)
+{
+    QDomDocument triggers;
+    if (!triggers.setContent(triggerListXml))
+        return false;
+    const QDomNodeList virtualTriggers = triggers.elementsByTagName(ARG_VIRTUAL_TRIGGER);
+    for (int i = 0; i < virtualTriggers.size(); ++i) {
+        const QDomElement trigger = virtualTriggers.at(i).toElement();
+        if (trigger.firstChildElement(QStringLiteral("Camera")).text() == camera
+            && ((!triggerId.isEmpty() && trigger.firstChildElement(QStringLiteral("Id")).text() == triggerId)
+                || (!name.isEmpty() && trigger.firstChildElement(QStringLiteral("Name")).text() == name)))
+            return true;
+    }
+    return false;
+}
+
+// The "QuessaEvent" of a fired virtual trigger.
+QString virtualTriggerEventXml(const QString& camera, const QString& name, const QString& cameraName,
+                               const QDateTime& when)
+{
+    QDomDocument document;
+    QDomElement quessaEvent = document.createElement(QStringLiteral("QuessaEvent"));
+    document.appendChild(quessaEvent);
+    appendTextElement(document, quessaEvent, QStringLiteral("Type"), ARG_VIRTUAL_TRIGGER);
+    QDomElement body = document.createElement(ARG_VIRTUAL_TRIGGER);
+    appendTextElement(document, body, QStringLiteral("Camera"), camera);
+    appendTextElement(document, body, QStringLiteral("Name"), encoded(name));
+    appendTextElement(document, body, QStringLiteral("RefName"), QStringLiteral("c_") + cameraName);
+    appendTextElement(document, body, QStringLiteral("ServerTime"), when.toUTC().toString(Qt::ISODate));
+    quessaEvent.appendChild(body);
+    return nodeText(quessaEvent);
+}
+
+// The triggered-alarm message of one rule's occurrence.
+QString alarmNotificationXml(const QString& encodedRuleName, const QString& alarmId, const QString& occurrenceId,
+                             const QString& quessaEventXml)
+{
+    QDomDocument alarm;
+    QDomElement notification = alarm.createElement(QStringLiteral("AlarmNotification"));
+    alarm.appendChild(notification);
+    QDomElement alarmElement = alarm.createElement(QStringLiteral("Alarm"));
+    notification.appendChild(alarmElement);
+    appendTextElement(alarm, alarmElement, QStringLiteral("Name"), encodedRuleName);
+    appendTextElement(alarm, alarmElement, QStringLiteral("AlarmID"), alarmId);
+    appendTextElement(alarm, alarmElement, QStringLiteral("TmcardID"), occurrenceId);
+    appendXml(alarm, alarmElement, quessaEventXml);
+    return nodeText(notification);
+}
+
+// One client notification message per "ClientNotification" action of the rule; a pop-up carries the event.
+QStringList clientNotificationXmls(const QString& actionListXml, const QString& occurrenceId,
+                                   const QString& quessaEventXml)
+{
+    QStringList messages;
+    QDomDocument actions;
+    actions.setContent(actionListXml);
+    const QDomNodeList clientNotifications = actions.elementsByTagName(ActionParserCommon::ACTION_TYPE_CLIENTNOTIFY);
+    for (int i = 0; i < clientNotifications.size(); ++i) {
+        const QDomElement action = clientNotifications.at(i).toElement();
+        QDomDocument message;
+        QDomElement root = message.createElement(ActionParserCommon::ACTION_TYPE_CLIENTNOTIFY);
+        message.appendChild(root);
+        appendTextElement(message, root, QStringLiteral("TimecardId"), occurrenceId);
+        for (QDomElement child = action.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            QDomElement copy = message.importNode(child, true).toElement();
+            if (copy.tagName() == QLatin1String("PopupWindow"))
+                appendXml(message, copy, quessaEventXml);
+            root.appendChild(copy);
+        }
+        messages.append(nodeText(root));
+    }
+    return messages;
+}
+
 // Entries of a toggle request: a list of maps, one map, or a map holding such a list.
 QVariantList toggleEntries(const QVariant& argument)
 {
@@ -155,6 +231,12 @@ QVariantList toggleEntries(const QVariant& argument)
             return value.toList();
     }
     return {};
+}
+
+// A rule lives in rules/<id>.xml.
+QString ruleFileName(const QString& alarmId)
+{
+    return alarmId + QLatin1String(".xml");
 }
 
 bool isFileName(const QString& name)
@@ -203,7 +285,7 @@ bool SimulatedServer::load(QString* errorText)
         const QDomElement root = document.documentElement();
         Rule rule;
         rule.id = root.firstChildElement(QStringLiteral("TmcardID")).text().trimmed();
-        if (rule.id.isEmpty() || fileName != rule.id + QLatin1String(".xml")) {
+        if (rule.id.isEmpty() || fileName != ruleFileName(rule.id)) {
             qWarning("Skipping rule file %s: its TmcardID does not match the file name", qPrintable(file.fileName()));
             continue;
         }
@@ -280,9 +362,14 @@ QString SimulatedServer::ruleDocument(const Rule& rule) const
     return nodeText(root);
 }
 
+QString SimulatedServer::ruleFilePath(const QString& alarmId) const
+{
+    return QDir(m_dataDirectory).filePath(RULES_FOLDER + QLatin1Char('/') + ruleFileName(alarmId));
+}
+
 bool SimulatedServer::storeRule(const Rule& rule)
 {
-    QSaveFile file(QDir(m_dataDirectory).filePath(RULES_FOLDER + QLatin1Char('/') + rule.id + QLatin1String(".xml")));
+    QSaveFile file(ruleFilePath(rule.id));
     if (!file.open(QIODevice::WriteOnly))
         return false;
     file.write(ruleDocument(rule).toUtf8());
@@ -416,7 +503,7 @@ SimulatedServer::Answer SimulatedServer::addAlarm(const QVariantMap& argument)
     rule.id = nextAlarmId();
     if (!storeRule(rule) || !storeSettings()) {
         m_lastAlarmId = previousLastId;
-        QFile::remove(QDir(m_dataDirectory).filePath(RULES_FOLDER + QLatin1Char('/') + rule.id + QLatin1String(".xml")));
+        QFile::remove(ruleFilePath(rule.id));
         return {QVariant(), CODE_STORAGE_FAILED, {}};
     }
     m_rules.insert(rule.id, rule);
@@ -470,7 +557,7 @@ SimulatedServer::Answer SimulatedServer::deleteAlarm(const QVariantMap& argument
     // A deletion names the revision the client saw; one that missed a later edit is refused.
     if (argument.contains(ARG_ALARM_REV) && argument.value(ARG_ALARM_REV).toLongLong() != found->revision)
         return {id, CODE_STALE_REVISION, {}};
-    if (!QFile::remove(QDir(m_dataDirectory).filePath(RULES_FOLDER + QLatin1Char('/') + id + QLatin1String(".xml"))))
+    if (!QFile::remove(ruleFilePath(id)))
         return {id, CODE_STORAGE_FAILED, {}};
     m_rules.erase(found);
     return {id, CODE_OK, {{EVENT_TYPE_DELETE_ALARM, id}}};
@@ -627,64 +714,17 @@ SimulatedServer::Answer SimulatedServer::virtualTrigger(const QVariantMap& argum
     Answer answer{QVariant(), CODE_NO_RULE_FIRED, {}};
     QStringList firedIds;
     for (const Rule* rule : rulesInListOrder()) {
-        if (!rule->isEnabled || !isScheduleActive(*rule, now))
+        if (!rule->isEnabled || !isScheduleActive(*rule, now)
+            || !holdsVirtualTrigger(rule->triggerListXml, camera, triggerId, name))
             continue;
-        QDomDocument triggers;
-        if (!triggers.setContent(rule->triggerListXml))
-            continue;
-        const QDomNodeList virtualTriggers = triggers.elementsByTagName(ARG_VIRTUAL_TRIGGER);
-        bool isHeld = false;
-        for (int i = 0; i < virtualTriggers.size() && !isHeld; ++i) {
-            const QDomElement trigger = virtualTriggers.at(i).toElement();
-            isHeld = trigger.firstChildElement(QStringLiteral("Camera")).text() == camera
-                && ((!triggerId.isEmpty() && trigger.firstChildElement(QStringLiteral("Id")).text() == triggerId)
-                    || (!name.isEmpty() && trigger.firstChildElement(QStringLiteral("Name")).text() == name));
-        }
-        if (!isHeld)
-            continue;
-
         const QString occurrenceId = QStringLiteral("%1%2").arg(now.toMSecsSinceEpoch()).arg(++m_occurrenceCount, 4, 10, QLatin1Char('0'));
         // The triggering event as the client's parsers read it, shared by the alarm and its notifications.
-        QDomDocument eventDocument;
-        QDomElement quessaEvent = eventDocument.createElement(QStringLiteral("QuessaEvent"));
-        eventDocument.appendChild(quessaEvent);
-        appendTextElement(eventDocument, quessaEvent, QStringLiteral("Type"), ARG_VIRTUAL_TRIGGER);
-        QDomElement body = eventDocument.createElement(ARG_VIRTUAL_TRIGGER);
-        appendTextElement(eventDocument, body, QStringLiteral("Camera"), camera);
-        appendTextElement(eventDocument, body, QStringLiteral("Name"), encoded(name));
-        appendTextElement(eventDocument, body, QStringLiteral("RefName"), QStringLiteral("c_") + cameraName);
-        appendTextElement(eventDocument, body, QStringLiteral("ServerTime"), now.toUTC().toString(Qt::ISODate));
-        quessaEvent.appendChild(body);
-        const QString quessaEventXml = nodeText(quessaEvent);
-
-        QDomDocument alarm;
-        QDomElement notification = alarm.createElement(QStringLiteral("AlarmNotification"));
-        alarm.appendChild(notification);
-        QDomElement alarmElement = alarm.createElement(QStringLiteral("Alarm"));
-        notification.appendChild(alarmElement);
-        appendTextElement(alarm, alarmElement, QStringLiteral("Name"), rule->encodedName);
-        appendTextElement(alarm, alarmElement, QStringLiteral("AlarmID"), rule->id);
-        appendTextElement(alarm, alarmElement, QStringLiteral("TmcardID"), occurrenceId);
-        appendXml(alarm, alarmElement, quessaEventXml);
-        answer.events.append({EVENT_TYPE_ALARM_TRIGGERED, QVariantMap{{QStringLiteral("xml"), nodeText(notification)}}});
-
-        QDomDocument actions;
-        actions.setContent(rule->actionListXml);
-        const QDomNodeList clientNotifications = actions.elementsByTagName(ActionParserCommon::ACTION_TYPE_CLIENTNOTIFY);
-        for (int i = 0; i < clientNotifications.size(); ++i) {
-            const QDomElement action = clientNotifications.at(i).toElement();
-            QDomDocument message;
-            QDomElement root = message.createElement(ActionParserCommon::ACTION_TYPE_CLIENTNOTIFY);
-            message.appendChild(root);
-            appendTextElement(message, root, QStringLiteral("TimecardId"), occurrenceId);
-            for (QDomElement child = action.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-                QDomElement copy = message.importNode(child, true).toElement();
-                if (copy.tagName() == QLatin1String("PopupWindow"))
-                    appendXml(message, copy, quessaEventXml);
-                root.appendChild(copy);
-            }
-            answer.events.append({EVENT_TYPE_CLIENT_NOTIFICATION, nodeText(root)});
-        }
+        const QString quessaEventXml = virtualTriggerEventXml(camera, name, cameraName, now);
+        answer.events.append({EVENT_TYPE_ALARM_TRIGGERED,
+                              QVariantMap{{QStringLiteral("xml"), alarmNotificationXml(rule->encodedName, rule->id,
+                                                                                       occurrenceId, quessaEventXml)}}});
+        for (const QString& notification : clientNotificationXmls(rule->actionListXml, occurrenceId, quessaEventXml))
+            answer.events.append({EVENT_TYPE_CLIENT_NOTIFICATION, notification});
         firedIds.append(rule->id);
     }
     if (!firedIds.isEmpty()) {

@@ -99,6 +99,7 @@ private:
     void deliver(Answer answer, Reply reply);
 
     QString ruleDocument(const Rule& rule) const;
+    QString ruleFilePath(const QString& alarmId) const;
     bool storeRule(const Rule& rule);
     bool storeSettings();
     bool setEnabled(Rule& rule, bool isEnabled, QList<QPair<QString, QVariant>>& events);
