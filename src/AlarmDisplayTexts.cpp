@@ -1,7 +1,5 @@
 #include "AlarmDisplayTexts.h"
 
-#include <initializer_list>
-
 #include <QObject>
 #include <QVariantMap>
 
@@ -55,22 +53,42 @@ QString joinedParts(const QString& first, const QString& second)
     return QObject::tr("%1 %2").arg(first, second);
 }
 
-// Which value word means which state, per value-dependent trigger type: {word, text} pairs; a value in none
-// of the pairs gives no text, so the raw type is shown rather than a guess.
-struct ValueText
+// Which value word means which state, per value-dependent trigger type; a value in none of the rows gives no
+// text, so the raw type is shown rather than a guess. The camera codec carries the numeric "Type" of the
+// video-loss element, the words are accepted too; virtual memory uses the storage capacity words and the
+// plain ones.
+struct StateText
 {
+    const char* type;
     const char* value;
     const char* text;
 };
 
-QString textForValue(const QString& value, std::initializer_list<ValueText> table)
-{
-    for (const ValueText& entry : table) {
-        if (value == QLatin1String(entry.value))
-            return QObject::tr(entry.text);
-    }
-    return {};
-}
+const StateText STATE_TEXTS[] = {
+    {"VideoLossRestore", "0", QT_TRANSLATE_NOOP("QObject", "Video loss")},
+    {"VideoLossRestore", "Loss", QT_TRANSLATE_NOOP("QObject", "Video loss")},
+    {"VideoLossRestore", "1", QT_TRANSLATE_NOOP("QObject", "Video restore")},
+    {"VideoLossRestore", "Restore", QT_TRANSLATE_NOOP("QObject", "Video restore")},
+    {"CamConn", "Connected", QT_TRANSLATE_NOOP("QObject", "Camera connected")},
+    {"CamConn", "Lost", QT_TRANSLATE_NOOP("QObject", "Camera disconnected")},
+    {"RecStatus", "Start", QT_TRANSLATE_NOOP("QObject", "Start recording")},
+    {"RecStatus", "Stop", QT_TRANSLATE_NOOP("QObject", "Stop recording")},
+    {"FanStatus", "Fine", QT_TRANSLATE_NOOP("QObject", "Fan resumes operation")},
+    {"FanStatus", "Error", QT_TRANSLATE_NOOP("QObject", "Fan error")},
+    {"StorageConn", "Available", QT_TRANSLATE_NOOP("QObject", "Storage ready")},
+    {"StorageConn", "Unavailable", QT_TRANSLATE_NOOP("QObject", "Storage failure")},
+    {"StorageCapacity", "Healthy", QT_TRANSLATE_NOOP("QObject", "Storage space available")},
+    {"StorageCapacity", "Exhausted", QT_TRANSLATE_NOOP("QObject", "Storage full")},
+    {"SysLicense", "Ready", QT_TRANSLATE_NOOP("QObject", "License ready")},
+    {"SysLicense", "TrialExpired", QT_TRANSLATE_NOOP("QObject", "Trial expired")},
+    {"SysLicense", "DongleLost", QT_TRANSLATE_NOOP("QObject", "Dongle lost")},
+    {"SysVirMem", "Healthy", QT_TRANSLATE_NOOP("QObject", "Virtual memory available")},
+    {"SysVirMem", "Available", QT_TRANSLATE_NOOP("QObject", "Virtual memory available")},
+    {"SysVirMem", "Exhausted", QT_TRANSLATE_NOOP("QObject", "Low virtual memory")},
+    {"SysVirMem", "Low", QT_TRANSLATE_NOOP("QObject", "Low virtual memory")},
+    {"FailoverState", "Running", QT_TRANSLATE_NOOP("QObject", "Failover server running")},
+    {"FailoverState", "Standby", QT_TRANSLATE_NOOP("QObject", "Failover server on standby")},
+};
 
 } // namespace
 
@@ -170,52 +188,13 @@ QString translatedTriggerTypeWithSourceValue(const QString& type, const QVariant
         return QObject::tr("Speeding");
 
     const QString value = triggerOfType(type, sourceList).value(TRIGGER_VALUE).toString();
-    if (type == QLatin1String("VideoLossRestore")) {
-        // The camera codec carries the numeric "Type" of the video-loss element; the words are accepted too.
-        return textForValue(value, {{"0", QT_TRANSLATE_NOOP("QObject", "Video loss")},
-                                    {"Loss", QT_TRANSLATE_NOOP("QObject", "Video loss")},
-                                    {"1", QT_TRANSLATE_NOOP("QObject", "Video restore")},
-                                    {"Restore", QT_TRANSLATE_NOOP("QObject", "Video restore")}});
-    }
-    if (type == QLatin1String("CamConn")) {
-        return textForValue(value, {{"Connected", QT_TRANSLATE_NOOP("QObject", "Camera connected")},
-                                    {"Lost", QT_TRANSLATE_NOOP("QObject", "Camera disconnected")}});
-    }
-    if (type == QLatin1String("RecStatus")) {
-        return textForValue(value, {{"Start", QT_TRANSLATE_NOOP("QObject", "Start recording")},
-                                    {"Stop", QT_TRANSLATE_NOOP("QObject", "Stop recording")}});
-    }
     if (type == QLatin1String("StationConn") || type == QLatin1String("SysNetwork")) {
         // A link is either up or down: only "Down" means disconnected.
         return value == QLatin1String("Down") ? QObject::tr("Network disconnected") : QObject::tr("Network connected");
     }
-    if (type == QLatin1String("FanStatus")) {
-        return textForValue(value, {{"Fine", QT_TRANSLATE_NOOP("QObject", "Fan resumes operation")},
-                                    {"Error", QT_TRANSLATE_NOOP("QObject", "Fan error")}});
-    }
-    if (type == QLatin1String("StorageConn")) {
-        return textForValue(value, {{"Available", QT_TRANSLATE_NOOP("QObject", "Storage ready")},
-                                    {"Unavailable", QT_TRANSLATE_NOOP("QObject", "Storage failure")}});
-    }
-    if (type == QLatin1String("StorageCapacity")) {
-        return textForValue(value, {{"Healthy", QT_TRANSLATE_NOOP("QObject", "Storage space available")},
-                                    {"Exhausted", QT_TRANSLATE_NOOP("QObject", "Storage full")}});
-    }
-    if (type == QLatin1String("SysLicense")) {
-        return textForValue(value, {{"Ready", QT_TRANSLATE_NOOP("QObject", "License ready")},
-                                    {"TrialExpired", QT_TRANSLATE_NOOP("QObject", "Trial expired")},
-                                    {"DongleLost", QT_TRANSLATE_NOOP("QObject", "Dongle lost")}});
-    }
-    if (type == QLatin1String("SysVirMem")) {
-        // Same words as the storage capacity report, plus the plain ones.
-        return textForValue(value, {{"Healthy", QT_TRANSLATE_NOOP("QObject", "Virtual memory available")},
-                                    {"Available", QT_TRANSLATE_NOOP("QObject", "Virtual memory available")},
-                                    {"Exhausted", QT_TRANSLATE_NOOP("QObject", "Low virtual memory")},
-                                    {"Low", QT_TRANSLATE_NOOP("QObject", "Low virtual memory")}});
-    }
-    if (type == QLatin1String("FailoverState")) {
-        return textForValue(value, {{"Running", QT_TRANSLATE_NOOP("QObject", "Failover server running")},
-                                    {"Standby", QT_TRANSLATE_NOOP("QObject", "Failover server on standby")}});
+    for (const StateText& entry : STATE_TEXTS) {
+        if (type == QLatin1String(entry.type) && value == QLatin1String(entry.value))
+            return QObject::tr(entry.text);
     }
     return {};
 }

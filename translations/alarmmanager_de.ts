@@ -4,12 +4,12 @@
 <context>
     <name>QObject</name>
     <message>
-        <location filename="../src/AlarmDisplayTexts.cpp" line="+67"/>
+        <location filename="../src/AlarmDisplayTexts.cpp" line="+53"/>
         <source>%1 %2</source>
         <translation>%1 %2</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+58"/>
         <source>Motion detection</source>
         <translation>Bewegungserkennung</translation>
     </message>
@@ -24,21 +24,21 @@
         <translation>Kamera-DO</translation>
     </message>
     <message>
+        <location line="-45"/>
         <location line="+1"/>
-        <location line="+79"/>
-        <location line="+1"/>
+        <location line="+45"/>
         <source>Video loss</source>
         <translation>Videoverlust</translation>
     </message>
     <message>
-        <location line="-79"/>
-        <location line="+80"/>
+        <location line="-44"/>
         <location line="+1"/>
+        <location line="+44"/>
         <source>Video restore</source>
         <translation>Video wiederhergestellt</translation>
     </message>
     <message>
-        <location line="-80"/>
+        <location line="+1"/>
         <source>PIR (Passive infrared)</source>
         <translation>PIR (Passiv-Infrarot)</translation>
     </message>
@@ -270,7 +270,7 @@
         <translation>GPS getrennt</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="-114"/>
         <source>Camera connected</source>
         <translation>Kamera verbunden</translation>
     </message>
@@ -280,7 +280,7 @@
         <translation>Kamera getrennt</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Start recording</source>
         <translation>Aufnahme gestartet</translation>
     </message>
@@ -290,7 +290,7 @@
         <translation>Aufnahme beendet</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+118"/>
         <source>Network disconnected</source>
         <translation>Netzwerk getrennt</translation>
     </message>
@@ -300,7 +300,7 @@
         <translation>Netzwerk verbunden</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-117"/>
         <source>Fan resumes operation</source>
         <translation>Lüfter läuft wieder</translation>
     </message>
@@ -310,7 +310,7 @@
         <translation>Lüfterfehler</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Storage ready</source>
         <translation>Speicher bereit</translation>
     </message>
@@ -320,7 +320,7 @@
         <translation>Speicherausfall</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Storage space available</source>
         <translation>Speicherplatz verfügbar</translation>
     </message>
@@ -330,7 +330,7 @@
         <translation>Speicher voll</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>License ready</source>
         <translation>Lizenz bereit</translation>
     </message>
@@ -345,7 +345,7 @@
         <translation>Dongle nicht gefunden</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+1"/>
         <location line="+1"/>
         <source>Virtual memory available</source>
         <translation>Virtueller Speicher verfügbar</translation>
@@ -357,7 +357,7 @@
         <translation>Virtueller Speicher knapp</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Failover server running</source>
         <translation>Failover-Server in Betrieb</translation>
     </message>
@@ -367,7 +367,7 @@
         <translation>Failover-Server in Bereitschaft</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+121"/>
         <location line="+14"/>
         <source>DI-%1</source>
         <translation>DI-%1</translation>
@@ -495,7 +495,7 @@
         <translation>GET-Methode</translation>
     </message>
     <message>
-        <location filename="../src/AlarmActionParser.cpp" line="+142"/>
+        <location filename="../src/AlarmActionParser.cpp" line="+88"/>
         <location filename="../src/AlarmDisplayTexts.cpp" line="+3"/>
         <source>Event triggering camera</source>
         <translation>Ereignisauslösende Kamera</translation>

@@ -4,12 +4,12 @@
 <context>
     <name>QObject</name>
     <message>
-        <location filename="../src/AlarmDisplayTexts.cpp" line="+67"/>
+        <location filename="../src/AlarmDisplayTexts.cpp" line="+53"/>
         <source>%1 %2</source>
         <translation>%1 %2</translation>
     </message>
     <message>
-        <location line="+38"/>
+        <location line="+58"/>
         <source>Motion detection</source>
         <translation>移動偵測</translation>
     </message>
@@ -24,21 +24,21 @@
         <translation>攝影機 DO</translation>
     </message>
     <message>
+        <location line="-45"/>
         <location line="+1"/>
-        <location line="+79"/>
-        <location line="+1"/>
+        <location line="+45"/>
         <source>Video loss</source>
         <translation>視訊遺失</translation>
     </message>
     <message>
-        <location line="-79"/>
-        <location line="+80"/>
+        <location line="-44"/>
         <location line="+1"/>
+        <location line="+44"/>
         <source>Video restore</source>
         <translation>視訊恢復</translation>
     </message>
     <message>
-        <location line="-80"/>
+        <location line="+1"/>
         <source>PIR (Passive infrared)</source>
         <translation>PIR（被動式紅外線）</translation>
     </message>
@@ -270,7 +270,7 @@
         <translation>GPS 連線中斷</translation>
     </message>
     <message>
-        <location line="+13"/>
+        <location line="-114"/>
         <source>Camera connected</source>
         <translation>攝影機已連線</translation>
     </message>
@@ -280,7 +280,7 @@
         <translation>攝影機連線中斷</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Start recording</source>
         <translation>錄影開始</translation>
     </message>
@@ -290,7 +290,7 @@
         <translation>錄影停止</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+118"/>
         <source>Network disconnected</source>
         <translation>網路連線中斷</translation>
     </message>
@@ -300,7 +300,7 @@
         <translation>網路已連線</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="-117"/>
         <source>Fan resumes operation</source>
         <translation>風扇恢復運轉</translation>
     </message>
@@ -310,7 +310,7 @@
         <translation>風扇故障</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Storage ready</source>
         <translation>儲存裝置就緒</translation>
     </message>
@@ -320,7 +320,7 @@
         <translation>儲存裝置故障</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Storage space available</source>
         <translation>儲存空間充足</translation>
     </message>
@@ -330,7 +330,7 @@
         <translation>儲存空間已滿</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>License ready</source>
         <translation>授權就緒</translation>
     </message>
@@ -345,7 +345,7 @@
         <translation>加密鎖遺失</translation>
     </message>
     <message>
-        <location line="+4"/>
+        <location line="+1"/>
         <location line="+1"/>
         <source>Virtual memory available</source>
         <translation>虛擬記憶體充足</translation>
@@ -357,7 +357,7 @@
         <translation>虛擬記憶體不足</translation>
     </message>
     <message>
-        <location line="+3"/>
+        <location line="+1"/>
         <source>Failover server running</source>
         <translation>備援伺服器運作中</translation>
     </message>
@@ -367,7 +367,7 @@
         <translation>備援伺服器待命中</translation>
     </message>
     <message>
-        <location line="+14"/>
+        <location line="+121"/>
         <location line="+14"/>
         <source>DI-%1</source>
         <translation>DI-%1</translation>
@@ -495,7 +495,7 @@
         <translation>GET 方法</translation>
     </message>
     <message>
-        <location filename="../src/AlarmActionParser.cpp" line="+142"/>
+        <location filename="../src/AlarmActionParser.cpp" line="+88"/>
         <location filename="../src/AlarmDisplayTexts.cpp" line="+3"/>
         <source>Event triggering camera</source>
         <translation>觸發事件的攝影機</translation>
