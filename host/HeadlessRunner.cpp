@@ -130,6 +130,14 @@ bool HeadlessRunner::awaitAnswer(bool isSent, const QString& answerSignal, Step*
     return false;
 }
 
+HeadlessRunner::Step HeadlessRunner::withAnswer(Step step, bool isSent, const QString& answerSignal)
+{
+    QVariantList arguments;
+    if (awaitAnswer(isSent, answerSignal, &step, &arguments))
+        step.isSuccess = arguments.value(0).toBool();
+    return step;
+}
+
 void HeadlessRunner::settle()
 {
     // Answers still on their way (and the events behind them) belong to this run's output.
@@ -347,10 +355,7 @@ HeadlessRunner::Step HeadlessRunner::editAlarm(const QString& json)
         Q_ARG(QString, triggerXml), Q_ARG(QString, actionXml), Q_ARG(QString, QString()), Q_ARG(QString, scheduleName),
         Q_ARG(QString, scheduleContent),
         Q_ARG(bool, edit.value(QLatin1String("enabled")).toBool(rowValue(row, "enabledRole").toBool())));
-    QVariantList arguments;
-    if (awaitAnswer(isSent, QStringLiteral("updateAlarmResp"), &step, &arguments))
-        step.isSuccess = arguments.value(0).toBool();
-    return step;
+    return withAnswer(step, isSent, QStringLiteral("updateAlarmResp"));
 }
 
 HeadlessRunner::Step HeadlessRunner::toggleAlarm(const QString& choice)
@@ -360,10 +365,7 @@ HeadlessRunner::Step HeadlessRunner::toggleAlarm(const QString& choice)
     Step step{QStringLiteral("toggle"), choice, false, {}};
     const QVariantList configuration{QVariantMap{{QStringLiteral("id"), id}, {QStringLiteral("enable"), isEnabled}}};
     const bool isSent = sendRequest(m_host->plugin(), "toggleAlarm", Q_ARG(QVariantList, configuration));
-    QVariantList arguments;
-    if (awaitAnswer(isSent, QStringLiteral("toggleAlarmResp"), &step, &arguments))
-        step.isSuccess = arguments.value(0).toBool();
-    return step;
+    return withAnswer(step, isSent, QStringLiteral("toggleAlarmResp"));
 }
 
 HeadlessRunner::Step HeadlessRunner::deleteAlarm(const QString& id)
@@ -389,10 +391,7 @@ HeadlessRunner::Step HeadlessRunner::updateSchedule(const QString& choice)
     const QString newName = choice.section(QLatin1Char(':'), 1);
     const bool isSent = sendRequest(m_host->plugin(), "updateAlarmSchedule", Q_ARG(QString, oldName),
                                     Q_ARG(QString, newName), Q_ARG(QString, m_host->site()->scheduleContent(newName)));
-    QVariantList arguments;
-    if (awaitAnswer(isSent, QStringLiteral("updateAllAlarmScheduleResp"), &step, &arguments))
-        step.isSuccess = arguments.value(0).toBool();
-    return step;
+    return withAnswer(step, isSent, QStringLiteral("updateAllAlarmScheduleResp"));
 }
 
 HeadlessRunner::Step HeadlessRunner::fire(const QString& choice)

@@ -60,6 +60,8 @@ private:
     // The answer to a request: true with its arguments, or false with the step's error when the plug-in did
     // not send the request or no answer came.
     bool awaitAnswer(bool isSent, const QString& answerSignal, Step* step, QVariantList* arguments);
+    // The step with the answer's first argument as its result, as most answer signals carry it.
+    Step withAnswer(Step step, bool isSent, const QString& answerSignal);
     void settle();
     Step addAlarm(const QString& json);
     Step editAlarm(const QString& json);

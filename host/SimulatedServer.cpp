@@ -362,6 +362,12 @@ QString SimulatedServer::ruleDocument(const Rule& rule) const
     return nodeText(root);
 }
 
+// The announcement of an added or changed rule: its id and trigger list.
+QPair<QString, QVariant> SimulatedServer::ruleEvent(const QString& eventType, const Rule& rule)
+{
+    return {eventType, QVariantMap{{ARG_ALARM_ID, rule.id}, {ARG_ALARM_TRG_LIST, rule.triggerListXml}}};
+}
+
 QString SimulatedServer::ruleFilePath(const QString& alarmId) const
 {
     return QDir(m_dataDirectory).filePath(RULES_FOLDER + QLatin1Char('/') + ruleFileName(alarmId));
@@ -510,8 +516,7 @@ SimulatedServer::Answer SimulatedServer::addAlarm(const QVariantMap& argument)
     const QVariantMap result{{ARG_ALARM_ID, rule.id},
                              {ARG_ALARM_TRG_LIST, rule.triggerListXml},
                              {ARG_ALARM_ACT_LIST, rule.actionListXml}};
-    const QVariantMap event{{ARG_ALARM_ID, rule.id}, {ARG_ALARM_TRG_LIST, rule.triggerListXml}};
-    return {result, CODE_OK, {{EVENT_TYPE_ADD_ALARM, event}}};
+    return {result, CODE_OK, {ruleEvent(EVENT_TYPE_ADD_ALARM, rule)}};
 }
 
 SimulatedServer::Answer SimulatedServer::updateAlarm(const QVariantMap& argument)
@@ -544,8 +549,7 @@ SimulatedServer::Answer SimulatedServer::updateAlarm(const QVariantMap& argument
         return {id, CODE_STORAGE_FAILED, {}};
     *found = edited;
     const QVariantMap result{{ARG_ALARM_ID, id}, {ARG_ALARM_REV, revision}};
-    const QVariantMap event{{ARG_ALARM_ID, id}, {ARG_ALARM_TRG_LIST, edited.triggerListXml}};
-    return {result, CODE_OK, {{EVENT_TYPE_UPDATE_ALARM, event}}};
+    return {result, CODE_OK, {ruleEvent(EVENT_TYPE_UPDATE_ALARM, edited)}};
 }
 
 SimulatedServer::Answer SimulatedServer::deleteAlarm(const QVariantMap& argument)
@@ -651,8 +655,7 @@ SimulatedServer::Answer SimulatedServer::updateAlarmSchedule(const QVariantMap& 
     *found = edited;
     QVariantMap result = echo;
     result.insert(ARG_ALARM_REV, edited.revision);
-    const QVariantMap event{{ARG_ALARM_ID, id}, {ARG_ALARM_TRG_LIST, edited.triggerListXml}};
-    return {result, CODE_OK, {{EVENT_TYPE_UPDATE_ALARM, event}}};
+    return {result, CODE_OK, {ruleEvent(EVENT_TYPE_UPDATE_ALARM, edited)}};
 }
 
 bool SimulatedServer::editElsewhere(const QString& alarmId)
@@ -666,8 +669,7 @@ bool SimulatedServer::editElsewhere(const QString& alarmId)
         return false;
     *found = edited;
     Answer announcement;
-    announcement.events.append(
-        {EVENT_TYPE_UPDATE_ALARM, QVariantMap{{ARG_ALARM_ID, alarmId}, {ARG_ALARM_TRG_LIST, edited.triggerListXml}}});
+    announcement.events.append(ruleEvent(EVENT_TYPE_UPDATE_ALARM, edited));
     deliver(announcement, Reply());
     return true;
 }

@@ -100,6 +100,7 @@ private:
 
     QString ruleDocument(const Rule& rule) const;
     QString ruleFilePath(const QString& alarmId) const;
+    static QPair<QString, QVariant> ruleEvent(const QString& eventType, const Rule& rule);
     bool storeRule(const Rule& rule);
     bool storeSettings();
     bool setEnabled(Rule& rule, bool isEnabled, QList<QPair<QString, QVariant>>& events);
