@@ -204,18 +204,20 @@ QList<HeadlessRunner::Step> HeadlessRunner::runSteps()
         steps.append(Step{QStringLiteral("concurrentEdit"), id, m_host->server()->editElsewhere(id), {}});
     if (!m_script.concurrentEdits.isEmpty())
         settle();
-    for (const QString& json : std::as_const(m_script.additions))
-        steps.append(addAlarm(json));
-    for (const QString& json : std::as_const(m_script.edits))
-        steps.append(editAlarm(json));
-    for (const QString& choice : std::as_const(m_script.toggles))
-        steps.append(toggleAlarm(choice));
-    for (const QString& id : std::as_const(m_script.deletions))
-        steps.append(deleteAlarm(id));
-    for (const QString& choice : std::as_const(m_script.scheduleUpdates))
-        steps.append(updateSchedule(choice));
-    for (const QString& choice : std::as_const(m_script.fires))
-        steps.append(fire(choice));
+    // In this order, each kind of step for every entry the command line gave.
+    using StepRunner = Step (HeadlessRunner::*)(const QString&);
+    const QList<QPair<const QStringList*, StepRunner>> kinds = {
+        {&m_script.additions, &HeadlessRunner::addAlarm},
+        {&m_script.edits, &HeadlessRunner::editAlarm},
+        {&m_script.toggles, &HeadlessRunner::toggleAlarm},
+        {&m_script.deletions, &HeadlessRunner::deleteAlarm},
+        {&m_script.scheduleUpdates, &HeadlessRunner::updateSchedule},
+        {&m_script.fires, &HeadlessRunner::fire},
+    };
+    for (const auto& [entries, runStep] : kinds) {
+        for (const QString& entry : *entries)
+            steps.append((this->*runStep)(entry));
+    }
     settle();
     return steps;
 }
