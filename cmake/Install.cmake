@@ -13,12 +13,11 @@ install(TARGETS uiframework EXPORT UiFrameworkTargets
         FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/uiframework COMPONENT Development)
 install(EXPORT UiFrameworkTargets NAMESPACE UiFramework:: FILE UiFrameworkTargets.cmake
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/UiFramework COMPONENT Development)
-configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/UiFrameworkConfig.cmake.in
-                              ${CMAKE_CURRENT_BINARY_DIR}/UiFrameworkConfig.cmake
+set(package_dir ${CMAKE_CURRENT_BINARY_DIR}/UiFramework)
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/UiFrameworkConfig.cmake.in ${package_dir}/UiFrameworkConfig.cmake
                               INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/UiFramework)
-write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/UiFrameworkConfigVersion.cmake
-                                 COMPATIBILITY SameMajorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/UiFrameworkConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/UiFrameworkConfigVersion.cmake
+write_basic_package_version_file(${package_dir}/UiFrameworkConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${package_dir}/UiFrameworkConfig.cmake ${package_dir}/UiFrameworkConfigVersion.cmake
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/UiFramework COMPONENT Development)
 
 set_target_properties(PluginAlarmManager PROPERTIES INSTALL_RPATH "$ORIGIN/${alarm_plugins_to_lib}")

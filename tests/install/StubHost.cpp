@@ -32,8 +32,8 @@ int main(int argc, char* argv[])
     Dl_info sdk {};
     dladdr(reinterpret_cast<const void*>(&PluginBase::staticMetaObject), &sdk);
     const QJsonObject metaData = loader.metaData();
+    const QJsonObject pluginData = metaData.value(QLatin1String("MetaData")).toObject();
     QTextStream(stdout) << metaData.value(QLatin1String("IID")).toString() << ' '
-                        << metaData.value(QLatin1String("MetaData")).toObject().value(QLatin1String("PluginID")).toString()
-                        << ' ' << sdk.dli_fname << '\n';
+                        << pluginData.value(QLatin1String("PluginID")).toString() << ' ' << sdk.dli_fname << '\n';
     return 0;
 }
