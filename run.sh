@@ -6,6 +6,7 @@
 #                             a display, otherwise the printed alarm list and a fired alarm (options go to
 #                             alarm-host; ./run.sh demo --help lists them)
 #   ./run.sh fuzz [SECONDS]   build the libFuzzer targets with clang and run each for SECONDS (default 45)
+#   ./run.sh package          build the Debian packages (plug-in and host; the SDK's -dev) into build/packages
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -16,6 +17,8 @@ packages=(cmake ninja-build g++ pkg-config
           qt6-qpa-plugins fonts-dejavu-core)
 
 fuzz_packages=(clang-14 libclang-rt-14-dev)
+
+package_tools=(dpkg-dev file)
 
 install_missing_packages() {
     local missing=()
@@ -101,9 +104,18 @@ run_demo() {
     fi
 }
 
+run_package() {
+    install_missing_packages "${packages[@]}" "${package_tools[@]}"
+    cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+    cmake --build build --target alarm-host PluginAlarmManager uiframework
+    rm -f build/packages/*.deb
+    (cd build && cpack -G DEB)
+}
+
 case "${1:-}" in
     demo) shift; run_demo "$@" ;;
     test) shift; run_tests "$@" ;;
     fuzz) shift; run_fuzzers "$@" ;;
-    *) echo "usage: $0 demo [alarm-host options] | test [--sanitize] | fuzz [SECONDS]" >&2; exit 2 ;;
+    package) run_package ;;
+    *) echo "usage: $0 demo [alarm-host options] | test [--sanitize] | fuzz [SECONDS] | package" >&2; exit 2 ;;
 esac

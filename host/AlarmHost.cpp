@@ -47,7 +47,13 @@ QString AlarmHost::defaultDataDirectory()
 
 QString AlarmHost::defaultPluginPath()
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../lib/libPluginAlarmManager.so"));
+    // Installed, the plug-in folder of the same prefix; run from the build tree, that build's lib/.
+    const QDir executableDirectory(QCoreApplication::applicationDirPath());
+    const QString installed = QDir::cleanPath(
+        executableDirectory.filePath(QStringLiteral(ALARM_INSTALLED_PLUGIN_DIR "/libPluginAlarmManager.so")));
+    const QString built =
+        QDir::cleanPath(executableDirectory.filePath(QStringLiteral("../lib/libPluginAlarmManager.so")));
+    return QFile::exists(installed) || !QFile::exists(built) ? installed : built;
 }
 
 bool AlarmHost::prepareDataDirectory(const QString& directory, QString* errorText)

@@ -15,6 +15,8 @@
 
 namespace {
 
+const QString VERSION_TEXT = QStringLiteral("alarm-host " ALARM_HOST_VERSION);
+
 struct CommandLine
 {
     AlarmHost::Options host;
@@ -39,13 +41,15 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
         "Reference host for the alarm plug-in: loads the plug-in, simulates the server with a sample site and\n"
         "shows the alarm list (QML page with --gui; printed without a display or with --list)."));
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption data(QStringLiteral("data"),
                                   QStringLiteral("Data folder of the simulated server (default: %1; the sample site is "
                                                  "copied into an empty folder).")
                                       .arg(AlarmHost::defaultDataDirectory()),
                                   QStringLiteral("dir"));
     const QCommandLineOption plugin(QStringLiteral("plugin"),
-                                    QStringLiteral("The plug-in library (default: lib/ beside bin/ of this build)."),
+                                    QStringLiteral("The plug-in library (default: the installed plug-in folder, "
+                                                   "or lib/ beside bin/ of this build)."),
                                     QStringLiteral("path"));
     const QCommandLineOption latency(QStringLiteral("latency"),
                                      QStringLiteral("Milliseconds the server takes per answer (default 30)."),
@@ -113,6 +117,10 @@ bool parse(const QStringList& arguments, CommandLine& commandLine, QString* mess
         *message = parser.helpText();
         return false;
     }
+    if (parser.isSet(QStringLiteral("version"))) {
+        *message = VERSION_TEXT;
+        return false;
+    }
 
     commandLine.host.dataDirectory = parser.isSet(data) ? parser.value(data) : AlarmHost::defaultDataDirectory();
     commandLine.host.pluginPath = parser.value(plugin);
@@ -159,7 +167,7 @@ int main(int argc, char* argv[])
     CommandLine commandLine;
     QString message;
     if (!parse(arguments, commandLine, &message)) {
-        const bool isHelp = message.startsWith(QLatin1String("Usage"));
+        const bool isHelp = message.startsWith(QLatin1String("Usage")) || message == VERSION_TEXT;
         message.replace(QLatin1String("<executable_name>"), QLatin1String("alarm-host"));
         QTextStream(isHelp ? stdout : stderr) << message << '\n';
         return isHelp ? 0 : 2;
