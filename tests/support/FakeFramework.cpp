@@ -4,25 +4,21 @@
 
 QVariant FakePeer::getValueFromModel(int, QString deviceId, QString roleName)
 {
-    ++callCount;
     return deviceTree.value(deviceId).value(roleName);
 }
 
 QString FakePeer::getRoleName(int roleId)
 {
-    ++callCount;
     return roleNames.value(roleId);
 }
 
 QString FakePeer::getSoundPath()
 {
-    ++callCount;
     return soundPath;
 }
 
 QVariantMap FakePeer::getEditionFeature()
 {
-    ++callCount;
     return editionFeature;
 }
 
@@ -42,7 +38,6 @@ bool FakeFramework::SendRequest(void* handle, const QString& senderPluginId, con
     RecordedRequest request{handle, senderPluginId, method, argument, context, blocking};
     if (refuse && refuse(request)) {
         errorText = QStringLiteral("refused by the test");
-        refusedRequests.append(request);
         return false;
     }
     requests.append(request);
@@ -52,24 +47,6 @@ bool FakeFramework::SendRequest(void* handle, const QString& senderPluginId, con
 QObject* FakeFramework::GetPluginObject(void*, const QString& pluginId)
 {
     return peers.value(pluginId);
-}
-
-void FakeFramework::refuseMethod(const QString& method)
-{
-    refuse = [method](const RecordedRequest& request) { return request.method == method; };
-}
-
-void FakeFramework::refuseAll()
-{
-    refuse = [](const RecordedRequest&) { return true; };
-}
-
-QStringList FakeFramework::methods() const
-{
-    QStringList names;
-    for (const RecordedRequest& request : requests)
-        names.append(request.method);
-    return names;
 }
 
 QList<RecordedRequest> FakeFramework::requestsFor(const QString& method) const

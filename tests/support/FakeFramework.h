@@ -3,7 +3,6 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
-#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -24,8 +23,7 @@ struct RecordedRequest
     bool isBlocking = false;
 };
 
-// A peer plug-in object answering every lookup the alarm plug-in makes; each instance counts its calls
-// so a test can tell whether a peer was contacted at all.
+// A peer plug-in object answering every lookup the alarm plug-in makes.
 class FakePeer : public QObject
 {
     Q_OBJECT
@@ -35,7 +33,6 @@ public:
     QHash<int, QString> roleNames;
     QString soundPath;
     QVariantMap editionFeature;
-    int callCount = 0;
 
     Q_INVOKABLE QVariant getValueFromModel(int kind, QString deviceId, QString roleName);
     Q_INVOKABLE QString getRoleName(int roleId);
@@ -55,14 +52,10 @@ public:
                      void* context, bool blocking, QString& errorText) override;
     QObject* GetPluginObject(void* handle, const QString& pluginId) override;
 
-    // Requests for which this returns true are refused (recorded all the same, in refusedRequests).
+    // Requests for which this returns true are refused and not recorded.
     std::function<bool(const RecordedRequest&)> refuse;
-    void refuseMethod(const QString& method);
-    void refuseAll();
 
     QList<RecordedRequest> requests;
-    QList<RecordedRequest> refusedRequests;
-    QStringList methods() const;
     QList<RecordedRequest> requestsFor(const QString& method) const;
 
     // Peers by plug-in id; remove an entry to simulate a peer that is not loaded.
