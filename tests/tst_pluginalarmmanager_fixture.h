@@ -3,7 +3,6 @@
 // The plug-in set up the way the host sets it up, with answers and events delivered the way the host
 // delivers them; shared by the plug-in tests.
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtTest>
@@ -29,28 +28,30 @@ struct PluginFixture
         plugin.CommandProcessor(method, result, context, returnCode, QString(), false, QString());
     }
 
-    // Answers the latest request of that method with its own context.
-    void answerLast(const QString& method, const QVariant& result, const QString& returnCode = "0")
-    {
-        const QList<RecordedRequest> sent = framework.requestsFor(method);
-        QVERIFY2(!sent.isEmpty(), qPrintable(method));
-        answer(method, result, sent.last().context, returnCode);
-    }
-
     void push(const QString& eventName, const QVariant& data, const QString& target = QString())
     {
         plugin.EventProcessor(eventName, 0, 0, 0, data, target);
     }
 };
 
-// Any value as compact JSON; a text stands as it is.
+// Any value as plain text: a map as {key=value ...}, a list as [a, b], an enumerator as its number.
 inline QString valueText(const QVariant& value)
 {
-    const QJsonValue json = QJsonValue::fromVariant(value);
-    if (json.isString())
-        return json.toString();
-    const QByteArray wrapped = QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(wrapped.mid(1, wrapped.size() - 2));
+    QStringList parts;
+    if (value.typeId() == QMetaType::QVariantMap) {
+        const QVariantMap map = value.toMap();
+        for (auto it = map.cbegin(); it != map.cend(); ++it)
+            parts.append(it.key() + "=" + valueText(it.value()));
+        return "{" + parts.join(' ') + "}";
+    }
+    if (value.typeId() == QMetaType::QVariantList || value.typeId() == QMetaType::QStringList) {
+        for (const QVariant& item : value.toList())
+            parts.append(valueText(item));
+        return "[" + parts.join(", ") + "]";
+    }
+    if (value.metaType().flags() & QMetaType::IsEnumeration)
+        return QString::number(value.toInt());
+    return value.isNull() ? QStringLiteral("null") : value.toString();
 }
 
 // A model row as one JSON text keyed by role name, so a comparison shows every field that differs.

@@ -4,7 +4,6 @@
 #include <QList>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 #include <QVariantMap>
 
@@ -34,10 +33,10 @@ public:
     QString soundPath;
     QVariantMap editionFeature;
 
-    Q_INVOKABLE QVariant getValueFromModel(int kind, QString deviceId, QString roleName);
-    Q_INVOKABLE QString getRoleName(int roleId);
-    Q_INVOKABLE QString getSoundPath();
-    Q_INVOKABLE QVariantMap getEditionFeature();
+    Q_INVOKABLE QVariant getValueFromModel(int, QString deviceId, QString role) { return deviceTree.value(deviceId).value(role); }
+    Q_INVOKABLE QString getRoleName(int roleId) { return roleNames.value(roleId); }
+    Q_INVOKABLE QString getSoundPath() { return soundPath; }
+    Q_INVOKABLE QVariantMap getEditionFeature() { return editionFeature; }
 };
 
 // The host as the tests play it: records every request, refuses the sends a test chooses, and serves
@@ -46,11 +45,10 @@ class FakeFramework : public FrameworkWrapperBase
 {
 public:
     FakeFramework();
-    ~FakeFramework() override;
 
     bool SendRequest(void* handle, const QString& senderPluginId, const QString& method, const QVariant& argument,
                      void* context, bool blocking, QString& errorText) override;
-    QObject* GetPluginObject(void* handle, const QString& pluginId) override;
+    QObject* GetPluginObject(void*, const QString& pluginId) override { return peers.value(pluginId); }
 
     // Requests for which this returns true are refused and not recorded.
     std::function<bool(const RecordedRequest&)> refuse;
