@@ -2,8 +2,13 @@
 
 #include <dlfcn.h>
 
+#include <functional>
+
 #include "FakeFramework.h"
 #include "PluginAlarmManager.h"
+
+using Failure = std::function<void(PluginAlarmManager&)>;
+Q_DECLARE_METATYPE(Failure)
 
 // Runs with the stand-in tracing library on the library path (see tracing.cmake): the plug-in must find
 // it at load, register itself, ask the filter with the trace site's file and line, and write the exact
@@ -12,8 +17,8 @@ class tst_Tracing : public QObject
 {
     Q_OBJECT
 private slots:
-    void refusedRequestIsTraced_data();
-    void refusedRequestIsTraced();
+    void failureIsTraced_data();
+    void failureIsTraced();
 };
 
 namespace {
@@ -30,38 +35,41 @@ QString site(const QString& file, const QString& text)
 }
 } // namespace
 
-void tst_Tracing::refusedRequestIsTraced_data()
+void tst_Tracing::failureIsTraced_data()
 {
-    QTest::addColumn<bool>("withContext");
+    QTest::addColumn<Failure>("failure");
     QTest::addColumn<int>("suppressedLevel");
     QTest::addColumn<QStringList>("log");
 
-    const QString send = "filter " + site("PluginAlarmManager.cpp", R"("%s, Send command failed.", "SendRequestToServer")");
-    const QString requester = "filter " + site("PluginAlarmManager_Req.cpp", "SendBlockRequestToServer failed");
-    QTest::newRow("plain request") << false << -1
-                                   << QStringList{send + " module 7 level 2", "write SendRequestToServer, Send command failed."};
-    QTest::newRow("another level suppressed") << false << 3
-                                              << QStringList{send + " module 7 level 2",
-                                                             "write SendRequestToServer, Send command failed."};
-    QTest::newRow("its level suppressed") << false << 2 << QStringList{send + " module 7 level 2"};
-    QTest::newRow("request with a context names the blocking sender")
-        << true << -1
-        << QStringList{send + " module 7 level 2", "write SendRequestToServer, Send command failed.",
-                       requester + " module 7 level 2", "write addAlarm, SendBlockRequestToServer failed"};
+    const QString sendSite = R"("%s, Send command failed.", "SendRequestToServer")";
+    const QString send = "filter " + site("PluginAlarmManager.cpp", sendSite) + " module 7 level 2";
+    const QString sendText = "write SendRequestToServer, Send command failed.";
+    const Failure refusedList = [](PluginAlarmManager& plugin) { plugin.getAllAlarm(); };
+    QTest::newRow("refused request") << refusedList << -1 << QStringList{send, sendText};
+    QTest::newRow("its level suppressed") << refusedList << 2 << QStringList{send};
+    QTest::newRow("refused request with a context names the blocking sender")
+        << Failure([](PluginAlarmManager& plugin) { plugin.addAlarm("n", "", "", "", "", "", ""); }) << -1
+        << QStringList{send, sendText,
+                       "filter " + site("PluginAlarmManager_Req.cpp", "SendBlockRequestToServer failed")
+                           + " module 7 level 2",
+                       "write addAlarm, SendBlockRequestToServer failed"};
+    QTest::newRow("failed list answer")
+        << Failure([](PluginAlarmManager& p) { p.CommandProcessor("GetAllAlarm", {}, nullptr, "3", {}, false, {}); })
+        << -1
+        << QStringList{"filter " + site("PluginAlarmManager_Hdlr.cpp", "handle get all alarm failed")
+                           + " module 7 level 2",
+                       "write HandleGetAllAlarm, handle get all alarm failed, returnCode = 3"};
 }
 
-void tst_Tracing::refusedRequestIsTraced()
+void tst_Tracing::failureIsTraced()
 {
-    QFETCH(bool, withContext);
+    QFETCH(Failure, failure);
     QFETCH(int, suppressedLevel);
     QFETCH(QStringList, log);
 
     // Given the stand-in the plug-in registered with at load, and a framework that refuses every request
     void* standIn = dlopen("libKrylLogUtl.dylib", RTLD_LAZY | RTLD_NOLOAD);
     QVERIFY2(standIn, "the plug-in did not load the tracing library");
-    const auto logged = [standIn] {
-        return QString::fromUtf8(reinterpret_cast<const char* (*)()>(dlsym(standIn, "standIn_log"))()).split('\n');
-    };
     FakeFramework framework;
     framework.refuse = [](const RecordedRequest&) { return true; };
     int handle = 0;
@@ -69,9 +77,10 @@ void tst_Tracing::refusedRequestIsTraced()
     QVERIFY(plugin.InitialPluginBase(nullptr, &handle, &framework));
     reinterpret_cast<void (*)(int)>(dlsym(standIn, "standIn_reset"))(suppressedLevel);
 
-    // When a request fails to go out, each trace site asks the filter at level 2 and writes unless suppressed
-    QVERIFY(withContext ? !plugin.addAlarm("n", "", "", "", "", "", "") : !plugin.getAllAlarm());
-    QCOMPARE(logged(), QStringList{"registered 19 AlarmManager"} + log + QStringList{""});
+    // When something fails, each trace site asks the filter at level 2 and writes unless suppressed
+    failure(plugin);
+    const char* logged = reinterpret_cast<const char* (*)()>(dlsym(standIn, "standIn_log"))();
+    QCOMPARE(QString::fromUtf8(logged).split('\n'), QStringList{"registered 19 AlarmManager"} + log + QStringList{""});
 }
 
 QTEST_GUILESS_MAIN(tst_Tracing)

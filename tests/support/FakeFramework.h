@@ -33,7 +33,7 @@ public:
     QString soundPath;
     QVariantMap editionFeature;
 
-    Q_INVOKABLE QVariant getValueFromModel(int, QString deviceId, QString role) { return deviceTree.value(deviceId).value(role); }
+    Q_INVOKABLE QVariant getValueFromModel(int, QString device, QString role) { return deviceTree[device][role]; }
     Q_INVOKABLE QString getRoleName(int roleId) { return roleNames.value(roleId); }
     Q_INVOKABLE QString getSoundPath() { return soundPath; }
     Q_INVOKABLE QVariantMap getEditionFeature() { return editionFeature; }
