@@ -379,10 +379,18 @@ void tst_PluginAlarmManager::scenario_data()
             s.f.push(event, "a1", "other");
         s.f.push("AlarmTriggered", QVariantMap{{"xml", triggered.arg("")}}), s.f.push(METHOD_DEL_ALARM, "a1");
     }) << QStringList{};
-    QTest::newRow("added alarm shows its triggers, one without id nothing") << Steps([](Scenario& s) {
-        s.f.push(EVENT_TYPE_ADD_ALARM, QVariantMap{{ARG_ALARM_ID, "a4"}, {ARG_ALARM_TRG_LIST, lights}});
-        s.f.push(EVENT_TYPE_ADD_ALARM, QVariantMap{{ARG_ALARM_TRG_LIST, gate}});
-    }) << QStringList{"- cam2 a3/Siren/3", "+ cam2 a4/Lights/1, a3/Siren/3"};
+    QTest::newRow("added alarm shows its virtual triggers with a camera, one without id nothing")
+        << Steps([](Scenario& s) {
+               // Camera and icon may stand beside the virtual trigger; its own ones win
+               const QString mixed = "<TriggerList><ExtDeviceEventTrigger/><ExtDeviceEventTrigger><VirtualTrigger>"
+                                     "<Name>Bell</Name><Camera>cam2</Camera></VirtualTrigger><Camera>cam1</Camera>"
+                                     "<IconType>4</IconType></ExtDeviceEventTrigger><ExtDeviceEventTrigger>"
+                                     "<VirtualTrigger><Name>Nowhere</Name></VirtualTrigger></ExtDeviceEventTrigger>"
+                                     "</TriggerList>";
+               s.f.push(EVENT_TYPE_ADD_ALARM, QVariantMap{{ARG_ALARM_ID, "a4"}, {ARG_ALARM_TRG_LIST, mixed}});
+               s.f.push(EVENT_TYPE_ADD_ALARM, QVariantMap{{ARG_ALARM_TRG_LIST, gate}});
+           })
+        << QStringList{"- cam2 a3/Siren/3", "+ cam2 a4/Bell/4, a3/Siren/3"};
     QTest::newRow("updated alarm replaces its triggers") << Steps([](Scenario& s) {
         s.f.push(EVENT_TYPE_UPDATE_ALARM, QVariantMap{{ARG_ALARM_ID, "a3"}, {ARG_ALARM_TRG_LIST, lights}});
         s.f.push(EVENT_TYPE_UPDATE_ALARM, QVariantMap{{ARG_ALARM_ID, "a1"}, {ARG_ALARM_TRG_LIST, "<Trig"}});
