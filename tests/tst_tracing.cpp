@@ -1,130 +1,86 @@
-#include <QFile>
 #include <QtTest>
 
 #include <dlfcn.h>
 
+#include <functional>
+
 #include "FakeFramework.h"
 #include "PluginAlarmManager.h"
 
+using Failure = std::function<void(PluginAlarmManager&)>;
+Q_DECLARE_METATYPE(Failure)
+
 // Runs with the stand-in tracing library on the library path (see tracing.cmake): the plug-in must find
 // it at load, register itself, ask the filter with the trace site's file and line, and write the exact
-// message text unless the filter suppresses it.
+// message text unless the filter suppresses its level.
 class tst_Tracing : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void init();
-    void registersAtLoad();
-    void failedSendWritesItsMessage_data();
-    void failedSendWritesItsMessage();
-    void filterSuppressesOnlyItsLevel();
-
-private:
-    template<typename Function>
-    Function standIn(const char* name)
-    {
-        auto function = reinterpret_cast<Function>(dlsym(m_standIn, name));
-        if (!function)
-            qFatal("stand-in tracing library lacks %s", name);
-        return function;
-    }
-    static int lineOf(const QString& sourceFile, const QString& text);
-
-    void* m_standIn = nullptr;
+    void failureIsTraced_data();
+    void failureIsTraced();
 };
 
-void tst_Tracing::initTestCase()
+namespace {
+// "file:line" of the trace site holding that text, so the test follows the code as it moves.
+QString site(const QString& file, const QString& text)
 {
-    // Already loaded by the plug-in's load-time set-up; RTLD_NOLOAD proves that it was.
-    m_standIn = dlopen("libKrylLogUtl.dylib", RTLD_LAZY | RTLD_NOLOAD);
-    QVERIFY2(m_standIn, "the plug-in did not load the tracing library");
-}
-
-void tst_Tracing::init()
-{
-    standIn<void (*)()>("standIn_reset")();
-}
-
-void tst_Tracing::registersAtLoad()
-{
-    QCOMPARE(standIn<int (*)()>("standIn_registeredKind")(), 19);
-    QCOMPARE(standIn<const char* (*)()>("standIn_registeredName")(), "AlarmManager");
-}
-
-int tst_Tracing::lineOf(const QString& sourceFile, const QString& text)
-{
-    QFile file(sourceFile);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    int line = 0;
-    while (!file.atEnd()) {
-        ++line;
-        if (QString::fromUtf8(file.readLine()).contains(text))
-            return line;
+    QFile source(QStringLiteral(ALARM_SOURCE_DIR "/") + file);
+    int line = 1;
+    for (bool isOpen = source.open(QIODevice::ReadOnly); isOpen && !source.atEnd(); ++line) {
+        if (QString::fromUtf8(source.readLine()).contains(text))
+            return file + ":" + QString::number(line);
     }
-    return -1;
+    return file + ": no such site";
+}
+} // namespace
+
+void tst_Tracing::failureIsTraced_data()
+{
+    QTest::addColumn<Failure>("failure");
+    QTest::addColumn<int>("suppressedLevel");
+    QTest::addColumn<QStringList>("log");
+
+    const QString sendSite = R"("%s, Send command failed.", "SendRequestToServer")";
+    const QString send = "filter " + site("PluginAlarmManager.cpp", sendSite) + " module 7 level 2";
+    const QString sendText = "write SendRequestToServer, Send command failed.";
+    const Failure refusedList = [](PluginAlarmManager& plugin) { plugin.getAllAlarm(); };
+    QTest::newRow("refused request") << refusedList << -1 << QStringList{send, sendText};
+    QTest::newRow("its level suppressed") << refusedList << 2 << QStringList{send};
+    QTest::newRow("refused request with a context names the blocking sender")
+        << Failure([](PluginAlarmManager& plugin) { plugin.addAlarm("n", "", "", "", "", "", ""); }) << -1
+        << QStringList{send, sendText,
+                       "filter " + site("PluginAlarmManager_Req.cpp", "SendBlockRequestToServer failed")
+                           + " module 7 level 2",
+                       "write addAlarm, SendBlockRequestToServer failed"};
+    QTest::newRow("failed list answer")
+        << Failure([](PluginAlarmManager& p) { p.CommandProcessor("GetAllAlarm", {}, nullptr, "3", {}, false, {}); })
+        << -1
+        << QStringList{"filter " + site("PluginAlarmManager_Hdlr.cpp", "handle get all alarm failed")
+                           + " module 7 level 2",
+                       "write HandleGetAllAlarm, handle get all alarm failed, returnCode = 3"};
 }
 
-void tst_Tracing::failedSendWritesItsMessage_data()
+void tst_Tracing::failureIsTraced()
 {
-    QTest::addColumn<bool>("isBlocking");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QString>("traceSite");
+    QFETCH(Failure, failure);
+    QFETCH(int, suppressedLevel);
+    QFETCH(QStringList, log);
 
-    QTest::newRow("non-blocking") << false << "SendRequestToServer, Send command failed."
-                                  << R"("%s, Send command failed.", "SendRequestToServer")";
-    QTest::newRow("blocking") << true << "SendBlockRequestToServer, Send command failed."
-                              << R"("%s, Send command failed.", "SendBlockRequestToServer")";
-}
-
-void tst_Tracing::failedSendWritesItsMessage()
-{
-    QFETCH(bool, isBlocking);
-    QFETCH(QString, message);
-    QFETCH(QString, traceSite);
-
-    // Given a plug-in whose framework refuses every request
+    // Given the stand-in the plug-in registered with at load, and a framework that refuses every request
+    void* standIn = dlopen("libKrylLogUtl.dylib", RTLD_LAZY | RTLD_NOLOAD);
+    QVERIFY2(standIn, "the plug-in did not load the tracing library");
     FakeFramework framework;
-    framework.refuseAll();
-    PluginAlarmManager plugin;
+    framework.refuse = [](const RecordedRequest&) { return true; };
     int handle = 0;
-    QVERIFY(plugin.InitialPluginBase(nullptr, &handle, &framework));
-    standIn<void (*)()>("standIn_reset")();
-
-    // When a request fails to go out
-    const bool isSent = isBlocking ? plugin.SendBlockRequestToServer(QStringLiteral("GetAllAlarm"), QVariant(), nullptr)
-                                   : plugin.SendRequestToServer(QStringLiteral("GetAllAlarm"), QVariant(), nullptr);
-
-    // Then exactly one message is written, asked for at level 2 with the trace site's file and line
-    QVERIFY(!isSent);
-    QCOMPARE(standIn<int (*)()>("standIn_messageCount")(), 1);
-    QCOMPARE(QString::fromUtf8(standIn<const char* (*)(int)>("standIn_message")(0)), message);
-    QCOMPARE(standIn<int (*)()>("standIn_filterCount")(), 1);
-    QCOMPARE(standIn<int (*)(int)>("standIn_filteredModuleLevel")(0), (7 << 8) | 2);
-    const QString sourceFile = QStringLiteral(ALARM_SOURCE_DIR "/PluginAlarmManager.cpp");
-    QCOMPARE(QString::fromUtf8(standIn<const char* (*)(int)>("standIn_filteredFile")(0)), sourceFile);
-    QCOMPARE(standIn<int (*)(int)>("standIn_filteredLine")(0), lineOf(sourceFile, traceSite));
-}
-
-void tst_Tracing::filterSuppressesOnlyItsLevel()
-{
-    FakeFramework framework;
-    framework.refuseAll();
     PluginAlarmManager plugin;
-    int handle = 0;
     QVERIFY(plugin.InitialPluginBase(nullptr, &handle, &framework));
+    reinterpret_cast<void (*)(int)>(dlsym(standIn, "standIn_reset"))(suppressedLevel);
 
-    standIn<void (*)()>("standIn_reset")();
-    standIn<void (*)(int)>("standIn_suppressLevel")(3);
-    QVERIFY(!plugin.SendRequestToServer(QStringLiteral("GetAllAlarm"), QVariant(), nullptr));
-    QCOMPARE(standIn<int (*)()>("standIn_messageCount")(), 1);
-
-    standIn<void (*)()>("standIn_reset")();
-    standIn<void (*)(int)>("standIn_suppressLevel")(2);
-    QVERIFY(!plugin.SendRequestToServer(QStringLiteral("GetAllAlarm"), QVariant(), nullptr));
-    QCOMPARE(standIn<int (*)()>("standIn_filterCount")(), 1);
-    QCOMPARE(standIn<int (*)()>("standIn_messageCount")(), 0);
+    // When something fails, each trace site asks the filter at level 2 and writes unless suppressed
+    failure(plugin);
+    const char* logged = reinterpret_cast<const char* (*)()>(dlsym(standIn, "standIn_log"))();
+    QCOMPARE(QString::fromUtf8(logged).split('\n'), QStringList{"registered 19 AlarmManager"} + log + QStringList{""});
 }
 
 QTEST_GUILESS_MAIN(tst_Tracing)

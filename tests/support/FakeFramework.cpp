@@ -2,82 +2,30 @@
 
 #include "stdafx.h"
 
-QVariant FakePeer::getValueFromModel(int, QString deviceId, QString roleName)
-{
-    ++callCount;
-    return deviceTree.value(deviceId).value(roleName);
-}
-
-QString FakePeer::getRoleName(int roleId)
-{
-    ++callCount;
-    return roleNames.value(roleId);
-}
-
-QString FakePeer::getSoundPath()
-{
-    ++callCount;
-    return soundPath;
-}
-
-QVariantMap FakePeer::getEditionFeature()
-{
-    ++callCount;
-    return editionFeature;
-}
-
 FakeFramework::FakeFramework()
 {
-    peers.insert(DEVICE_TREE_PLUGIN_ID, &deviceTree);
-    peers.insert(USER_ROLE_PLUGIN_ID, &userRoles);
-    peers.insert(SOUND_PATH_PLUGIN_ID, &soundPath);
-    peers.insert(LICENSE_MANAGER_PLUGIN_ID, &licence);
+    peers = {{DEVICE_TREE_PLUGIN_ID, &deviceTree},
+             {USER_ROLE_PLUGIN_ID, &userRoles},
+             {SOUND_PATH_PLUGIN_ID, &soundPath},
+             {LICENSE_MANAGER_PLUGIN_ID, &licence}};
 }
-
-FakeFramework::~FakeFramework() = default;
 
 bool FakeFramework::SendRequest(void* handle, const QString& senderPluginId, const QString& method,
                                 const QVariant& argument, void* context, bool blocking, QString& errorText)
 {
-    RecordedRequest request{handle, senderPluginId, method, argument, context, blocking};
+    const RecordedRequest request{handle, senderPluginId, method, argument, context, blocking};
     if (refuse && refuse(request)) {
         errorText = QStringLiteral("refused by the test");
-        refusedRequests.append(request);
         return false;
     }
     requests.append(request);
     return true;
 }
 
-QObject* FakeFramework::GetPluginObject(void*, const QString& pluginId)
-{
-    return peers.value(pluginId);
-}
-
-void FakeFramework::refuseMethod(const QString& method)
-{
-    refuse = [method](const RecordedRequest& request) { return request.method == method; };
-}
-
-void FakeFramework::refuseAll()
-{
-    refuse = [](const RecordedRequest&) { return true; };
-}
-
-QStringList FakeFramework::methods() const
-{
-    QStringList names;
-    for (const RecordedRequest& request : requests)
-        names.append(request.method);
-    return names;
-}
-
 QList<RecordedRequest> FakeFramework::requestsFor(const QString& method) const
 {
     QList<RecordedRequest> matching;
-    for (const RecordedRequest& request : requests) {
-        if (request.method == method)
-            matching.append(request);
-    }
+    std::copy_if(requests.cbegin(), requests.cend(), std::back_inserter(matching),
+                 [&method](const RecordedRequest& request) { return request.method == method; });
     return matching;
 }
