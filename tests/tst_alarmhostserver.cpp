@@ -79,6 +79,8 @@ void tst_AlarmHostServer::requestIsAnsweredAndAnnounced_data()
     const QVariantMap edit{{"alarmID", "1003"}, {"alarmName", "Renamed"}, {"alarmRevision", 2}};
     QVariantMap sameRevision = edit;
     sameRevision.insert("alarmRevision", 1);
+    QVariantMap skippedRevision = edit;
+    skippedRevision.insert("alarmRevision", 3);
     QVariantMap malformed = edit;
     malformed.insert("triggerList", "<TriggerList><CamEventTrigger>");
     QVariantMap otherCamera = OPEN_GATE;
@@ -90,6 +92,7 @@ void tst_AlarmHostServer::requestIsAnsweredAndAnnounced_data()
                         const QString& answer) { QTest::newRow(name) << given << method << argument << answer; };
     row("edit at the next revision", "", "UpdateAlarm", edit, R"(0 [{"alarmID":"1003","alarmRevision":2}], updateAlarm 1003)");
     row("edit at the stored revision is stale", "", "UpdateAlarm", sameRevision, R"(4 ["1003"])");
+    row("edit skipping a revision is stale", "", "UpdateAlarm", skippedRevision, R"(4 ["1003"])");
     row("edit after another client's is stale", "1003 edited elsewhere", "UpdateAlarm", edit, R"(4 ["1003"])");
     row("edit of an unknown rule", "", "UpdateAlarm", QVariant(), R"(3 [""])");
     row("edit with malformed trigger XML", "", "UpdateAlarm", malformed, R"(2 ["1003"])");
