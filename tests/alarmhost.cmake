@@ -8,6 +8,9 @@ target_include_directories(tst_alarmhostserver PRIVATE ${PROJECT_SOURCE_DIR}/hos
 target_link_libraries(tst_alarmhostserver PRIVATE Qt6::Network Qt6::Xml)
 
 foreach(host_test tst_alarmhost tst_alarmhostpage tst_alarmhostserver)
+    if(NOT TARGET ${host_test})
+        continue()
+    endif()
     target_compile_definitions(${host_test} PRIVATE ALARM_SAMPLE_SITE_DIR="${PROJECT_SOURCE_DIR}/samples/site")
     if(ALARM_BUILD_HOST AND NOT host_test STREQUAL tst_alarmhostserver)
         target_compile_definitions(${host_test} PRIVATE
