@@ -5,301 +5,157 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <algorithm>
+#ifndef ALARM_HOST_EXECUTABLE
+#define ALARM_HOST_EXECUTABLE ""
+#endif
 
-// The whole road through the reference host: the plug-in loaded by alarm-host, the simulated server
-// behind it, and what a user of the headless mode sees (--json): the list, filtering, sorting, edits,
-// a fired virtual trigger, and rules that are still there after a restart.
+// The whole road through the reference host in its headless mode (--json): the plug-in loaded by alarm-host,
+// the simulated server behind it, the sample site; scripted edits, a fired trigger, filter and sort, the sound
+// sync, and everything still there after a restart.
 class tst_AlarmHost : public QObject
 {
     Q_OBJECT
 private slots:
     void initTestCase();
-    void init();
-
-    void listShowsEverySampleRule();
-    void filterNarrowsTheList_data();
-    void filterNarrowsTheList();
-    void sortByNameDescending();
-    void editsAreKeptAcrossRestarts();
-    void staleEditIsRejected();
-    void scheduleTemplateMovesEveryRuleOnIt();
-    void soundsAreSynchronisedOnConnect();
-    void firedTriggerReachesTheUser();
-    void disabledRuleDoesNotFire();
+    void editsFireAndRestart();
     void unknownSortRoleIsAnError();
 
 private:
     QJsonObject runHost(const QStringList& arguments, int expectedExitCode = 0);
-    static QJsonObject alarmById(const QJsonObject& output, const QString& id);
-    static QStringList ids(const QJsonObject& output);
-    static QJsonObject summary(const QJsonObject& alarm);
 
-    QScopedPointer<QTemporaryDir> m_dataDir;
+    QTemporaryDir m_dataDir;
 };
+
+namespace {
+
+// One alarm as one line: id | name | enabled | revision | schedule | trigger type | triggers | type: targets, ...
+QString rendered(const QJsonObject& alarm)
+{
+    QStringList triggers;
+    QStringList actions;
+    for (const QJsonValue& trigger : alarm["triggers"].toArray())
+        triggers << trigger.toString();
+    for (const QJsonValue& action : alarm["actions"].toArray()) {
+        QStringList targets;
+        for (const QJsonValue& target : action["targets"].toArray())
+            targets << target.toString();
+        actions << action["type"].toString() + ": " + targets.join("; ");
+    }
+    return QStringList{alarm["id"].toString(), alarm["name"].toString(), alarm["enabled"].toBool() ? "on" : "off",
+                       QString::number(alarm["revision"].toInt()), alarm["schedule"].toString(),
+                       alarm["triggerType"].toString(), triggers.join(", "), actions.join(", ")}
+        .join(" | ");
+}
+
+QStringList renderedSteps(const QJsonObject& output)
+{
+    QStringList steps;
+    for (const QJsonValue& step : output["steps"].toArray())
+        steps << QStringList{step["step"].toString(), step["subject"].toString(), step["id"].toString(),
+                             step["success"].toBool() ? "ok" : "failed"}
+                     .join(' ');
+    return steps;
+}
+
+QStringList renderedAlarms(const QJsonObject& output)
+{
+    QStringList alarms;
+    for (const QJsonValue& alarm : output["alarms"].toArray())
+        alarms << rendered(alarm.toObject());
+    return alarms;
+}
+
+} // namespace
 
 void tst_AlarmHost::initTestCase()
 {
-#ifndef ALARM_HOST_EXECUTABLE
-    QSKIP("this build has no alarm-host");
-#endif
-}
-
-void tst_AlarmHost::init()
-{
-    // Each test starts from a fresh copy of the sample site, made by the host itself.
-    m_dataDir.reset(new QTemporaryDir);
-    QVERIFY(m_dataDir->isValid());
+    if (QString(ALARM_HOST_EXECUTABLE).isEmpty())
+        QSKIP("this build has no alarm-host");
+    QVERIFY(m_dataDir.isValid());
 }
 
 QJsonObject tst_AlarmHost::runHost(const QStringList& arguments, int expectedExitCode)
 {
-#ifdef ALARM_HOST_EXECUTABLE
     QProcess host;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    host.setProcessEnvironment(environment);
-    host.start(QStringLiteral(ALARM_HOST_EXECUTABLE),
-               QStringList{"--data", m_dataDir->path(), "--json", "--latency", "5", "--timeout", "20000"} + arguments);
-    if (!host.waitForFinished(120000)) {
+    host.start(ALARM_HOST_EXECUTABLE,
+               QStringList{"--data", m_dataDir.path(), "--json", "--latency", "5", "--timeout", "20000"} + arguments);
+    if (!host.waitForFinished(120000))
         host.kill();
-        host.waitForFinished();
-        qWarning("alarm-host did not finish: %s", qPrintable(arguments.join(QLatin1Char(' '))));
-        return {};
-    }
-    const QByteArray errors = host.readAllStandardError();
-    if (host.exitCode() != expectedExitCode) {
-        qWarning("alarm-host %s exited with %d:\n%s", qPrintable(arguments.join(QLatin1Char(' '))), host.exitCode(),
-                 errors.constData());
-        return {};
-    }
+    if (host.exitCode() != expectedExitCode)
+        return {{"exitCode", host.exitCode()}, {"errors", QString(host.readAllStandardError())}};
     return QJsonDocument::fromJson(host.readAllStandardOutput()).object();
-#else
-    Q_UNUSED(arguments);
-    Q_UNUSED(expectedExitCode);
-    return {};
-#endif
 }
 
-QJsonObject tst_AlarmHost::alarmById(const QJsonObject& output, const QString& id)
+void tst_AlarmHost::editsFireAndRestart()
 {
-    for (const QJsonValue& alarm : output.value(QLatin1String("alarms")).toArray()) {
-        if (alarm.toObject().value(QLatin1String("id")).toString() == id)
-            return alarm.toObject();
+    // Given the sample site, copied by the host on its first run
+    // When a rule is added and deleted again, another edited, one switched off, one deleted, a schedule template
+    // replaced, a virtual trigger fired and the list filtered
+    const QString bayRule = R"({"name":"%1","schedule":"All day","triggers":[{"kind":"virtual","device":"cam-16",)"
+                            R"("name":"Bay alarm"}],"actions":[{"kind":"sound","sound":"siren.mp3"}]})";
+    const QJsonObject first = runHost(
+        {"--add-json", bayRule.arg("Bay"), "--edit-json", R"({"id":"1005","name":"Edited","schedule":"Night shift"})",
+         "--toggle", "1001:off", "--delete", "1065", "--delete", "1002", "--update-schedule", "Weekday nights:Weekend",
+         "--fire", "Open gate", "--filter", "OPERATOR:"});
+
+    QVERIFY2(!first.contains("errors"), qPrintable(first["errors"].toString()));
+    // Then every step succeeds, the fired alarm and its popup reach the user, and the list shows the matches
+    QCOMPARE(renderedSteps(first), QStringList({"add Bay 1065 ok", "edit 1005  ok", "toggle 1001:off  ok",
+                                                "delete 1065  ok", "delete 1002  ok",
+                                                "schedule Weekday nights:Weekend  ok", "fire Open gate  ok"}));
+    QStringList heard;
+    for (const QJsonValue& signal : first["steps"].toArray().last()["signals"].toArray()) {
+        QJsonArray arguments = signal["arguments"].toArray();
+        if (signal["signal"] == "alarmTriggered")
+            arguments.removeAt(3); // the time of the alarm
+        if (signal["signal"] == "alarmNotify")
+            arguments = {}; // the server's document, pinned where the plug-in parses it
+        heard << signal["signal"].toString() + QJsonDocument(arguments).toJson(QJsonDocument::Compact);
     }
-    return {};
-}
+    const QString occurrence = heard.value(2).section(',', -1).chopped(1);
+    QCOMPARE(heard, QStringList({R"(sendVirtualTriggerAlarmResp[true,1])", "alarmNotify[]",
+                                 R"(alarmTriggered["Operator: open main gate","VirtualTrigger","cam-01","VirtualTrigger",)"
+                                 R"("","Open gate","Main gate entry","1057",)" + occurrence + "]",
+                                 R"(clientNotification[1,["cam-01"],)" + occurrence + "]"}));
+    QStringList filtered = renderedAlarms(first);
+    QCOMPARE(filtered.size(), 4);
+    QCOMPARE(filtered.first(), "1057 | Operator: open main gate | on | 1 | All day | Virtual trigger | Open gate | Set DO "
+                               "status: Main gate entry Set Gate lock to Trigger, Send live streaming: Main gate entry, "
+                               "Add bookmark: Main gate entry");
 
-QStringList tst_AlarmHost::ids(const QJsonObject& output)
-{
-    QStringList result;
-    for (const QJsonValue& alarm : output.value(QLatin1String("alarms")).toArray())
-        result.append(alarm.toObject().value(QLatin1String("id")).toString());
-    return result;
-}
+    // When the host starts again, adds a rule and sorts by name, descending
+    const QJsonObject restarted = runHost({"--add-json", bayRule.arg("Dock"), "--sort", "nameRole:desc"});
 
-QJsonObject tst_AlarmHost::summary(const QJsonObject& alarm)
-{
-    QJsonObject fields;
-    for (const char* key : {"id", "name", "enabled", "revision", "description", "schedule"})
-        fields.insert(QLatin1String(key), alarm.value(QLatin1String(key)));
-    return fields;
-}
-
-void tst_AlarmHost::listShowsEverySampleRule()
-{
-    const QJsonObject output = runHost({"--list"});
-
-    QCOMPARE(output.value(QLatin1String("count")).toInt(), 64);
-    const QJsonObject gate = alarmById(output, QStringLiteral("1057"));
-    QCOMPARE(summary(gate), QJsonObject({{"id", "1057"},
-                                         {"name", "Operator: open main gate"},
-                                         {"enabled", true},
-                                         {"revision", 1},
-                                         {"description", "Virtual button in the gate camera's view"},
-                                         {"schedule", "All day"}}));
-    QCOMPARE(gate.value(QLatin1String("triggerType")).toString(), QStringLiteral("Virtual trigger"));
-    QStringList actionTypes;
-    for (const QJsonValue& action : gate.value(QLatin1String("actions")).toArray())
-        actionTypes.append(action.toObject().value(QLatin1String("type")).toString());
-    QCOMPARE(actionTypes, QStringList({"Set DO status", "Send live streaming", "Add bookmark"}));
-    QVERIFY(!alarmById(output, QStringLiteral("1012")).value(QLatin1String("enabled")).toBool());
-}
-
-void tst_AlarmHost::filterNarrowsTheList_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QStringList>("expectedIds");
-    QTest::newRow("name word, any case") << "OPERATOR:" << QStringList({"1057", "1058", "1059", "1060"});
-    QTest::newRow("role in a notification target") << "operators" << QStringList({"1002", "1022"});
-    QTest::newRow("two words must both match") << "operator lockdown" << QStringList({"1058"});
-    QTest::newRow("nothing matches") << "zebra-crossing" << QStringList();
-}
-
-void tst_AlarmHost::filterNarrowsTheList()
-{
-    QFETCH(QString, filter);
-    QFETCH(QStringList, expectedIds);
-
-    const QJsonObject output = runHost({"--list", "--filter", filter});
-
-    QStringList listed = ids(output);
-    listed.sort();
-    QCOMPARE(listed, expectedIds);
-    QCOMPARE(output.value(QLatin1String("count")).toInt(), expectedIds.size());
-}
-
-void tst_AlarmHost::sortByNameDescending()
-{
-    const QJsonObject output = runHost({"--list", "--sort", "nameRole:desc"});
-
+    // Then the changes were kept, a deleted id is not given again, and the server's sounds were fetched
+    QCOMPARE(renderedSteps(restarted), QStringList({"add Dock 1066 ok"}));
+    QStringList changed; // without their actions, which stayed as they were
+    for (const QString& alarm : renderedAlarms(restarted)) {
+        if (QStringList({"1001", "1002", "1005", "1047", "1066"}).contains(alarm.section(' ', 0, 0)))
+            changed << alarm.section(" | ", 0, 6);
+    }
+    QCOMPARE(changed, QStringList({"1001 | Gate forced open | off | 1 | Night shift | Camera DI | Main gate entry DI-1",
+                                   "1005 | Edited | on | 2 | Night shift | Motion detection | Yard north Window 1",
+                                   "1066 | Dock | on | 1 | All day | Virtual trigger | Bay alarm",
+                                   "1047 | Canteen occupancy back to zero | off | 2 | Weekend | Number of remaining "
+                                   "people | Recorder C (Offices) 2"}));
     QStringList names;
-    for (const QJsonValue& alarm : output.value(QLatin1String("alarms")).toArray())
-        names.append(alarm.toObject().value(QLatin1String("name")).toString());
-    QStringList expected = names;
-    // Case-sensitive, by character code, as the list sorts.
-    std::sort(expected.begin(), expected.end(), [](const QString& a, const QString& b) { return a > b; });
-    QCOMPARE(names.size(), 64);
-    QCOMPARE(names, expected);
-}
-
-void tst_AlarmHost::editsAreKeptAcrossRestarts()
-{
-    // Given the sample site, when a rule is added, then edited
-    const QString addition = QStringLiteral(
-        R"j({"name":"Loading bay intruder","description":"Bay 4 after hours","schedule":"All day",)j"
-        R"j("triggers":[{"kind":"virtual","device":"cam-16","name":"Bay alarm"}],)j"
-        R"j("actions":[{"kind":"popup","cameras":["cam-16"]},{"kind":"sound","sound":"siren.mp3"}]})j");
-    const QJsonObject added = runHost({"--add-json", addition});
-    const QJsonObject addStep = added.value(QLatin1String("steps")).toArray().at(0).toObject();
-    QVERIFY2(addStep.value(QLatin1String("success")).toBool(), qPrintable(QJsonDocument(addStep).toJson()));
-    const QString newId = addStep.value(QLatin1String("id")).toString();
-    QCOMPARE(newId, QStringLiteral("1065"));
-    QCOMPARE(summary(alarmById(added, newId)),
-             QJsonObject({{"id", newId}, {"name", "Loading bay intruder"}, {"enabled", true}, {"revision", 1},
-                          {"description", "Bay 4 after hours"}, {"schedule", "All day"}}));
-
-    const QJsonObject edited = runHost(
-        {"--edit-json", QStringLiteral(R"j({"id":"%1","name":"Loading bay intruder (night)","schedule":"Night shift"})j").arg(newId)});
-    QVERIFY(edited.value(QLatin1String("steps")).toArray().at(0).toObject().value(QLatin1String("success")).toBool());
-    QCOMPARE(summary(alarmById(edited, newId)),
-             QJsonObject({{"id", newId}, {"name", "Loading bay intruder (night)"}, {"enabled", true}, {"revision", 2},
-                          {"description", "Bay 4 after hours"}, {"schedule", "Night shift"}}));
-
-    // ... one is switched off and another deleted
-    const QJsonObject changed = runHost({"--toggle", "1001:off", "--delete", "1002"});
-    const QJsonArray steps = changed.value(QLatin1String("steps")).toArray();
-    QCOMPARE(steps.size(), 2);
-    for (const QJsonValue& step : steps)
-        QVERIFY2(step.toObject().value(QLatin1String("success")).toBool(), qPrintable(QJsonDocument(step.toObject()).toJson()));
-    QVERIFY(!alarmById(changed, QStringLiteral("1001")).value(QLatin1String("enabled")).toBool());
-    QVERIFY(!ids(changed).contains(QStringLiteral("1002")));
-
-    // Then a restarted host lists every change
-    const QJsonObject restarted = runHost({"--list"});
-    QCOMPARE(restarted.value(QLatin1String("count")).toInt(), 64);
-    QCOMPARE(summary(alarmById(restarted, newId)), summary(alarmById(edited, newId)));
-    QVERIFY(!alarmById(restarted, QStringLiteral("1001")).value(QLatin1String("enabled")).toBool());
-    QVERIFY(!ids(restarted).contains(QStringLiteral("1002")));
-}
-
-void tst_AlarmHost::staleEditIsRejected()
-{
-    // Given another client edited rule 1003 after this one loaded the list
-    // When this client saves its own edit of that rule
-    const QJsonObject output = runHost(
-        {"--concurrent-edit", "1003", "--edit-json", R"j({"id":"1003","name":"Intercom (my edit)"})j"}, 1);
-
-    // Then the server refuses it and the rule keeps the other client's revision
-    const QJsonArray steps = output.value(QLatin1String("steps")).toArray();
-    QCOMPARE(steps.size(), 2);
-    QVERIFY(steps.at(0).toObject().value(QLatin1String("success")).toBool());
-    QCOMPARE(steps.at(1).toObject().value(QLatin1String("step")).toString(), QStringLiteral("edit"));
-    QVERIFY(!steps.at(1).toObject().value(QLatin1String("success")).toBool());
-    const QJsonObject restarted = runHost({"--list"});
-    QCOMPARE(summary(alarmById(restarted, QStringLiteral("1003"))),
-             QJsonObject({{"id", "1003"}, {"name", "Intercom call at main gate"}, {"enabled", true}, {"revision", 2},
-                          {"description", ""}, {"schedule", "All day"}}));
-}
-
-void tst_AlarmHost::scheduleTemplateMovesEveryRuleOnIt()
-{
-    // Given the rules on "Weekday nights" and "Weekend" (one each in the sample)
-    const QJsonObject before = runHost({"--list"});
-    QStringList onWeekdayNights;
-    for (const QJsonValue& alarm : before.value(QLatin1String("alarms")).toArray()) {
-        if (alarm.toObject().value(QLatin1String("schedule")).toString() == QLatin1String("Weekday nights"))
-            onWeekdayNights.append(alarm.toObject().value(QLatin1String("id")).toString());
-    }
-    QCOMPARE(onWeekdayNights, QStringList({"1047"}));
-
-    // When that template is replaced by "Weekend"
-    const QJsonObject output = runHost({"--update-schedule", "Weekday nights:Weekend"});
-
-    // Then the rule runs on the new template at the next revision, here and after a restart
-    QVERIFY(output.value(QLatin1String("steps")).toArray().at(0).toObject().value(QLatin1String("success")).toBool());
-    const QJsonObject moved = alarmById(runHost({"--list"}), QStringLiteral("1047"));
-    QCOMPARE(QJsonArray({moved.value(QLatin1String("schedule")), moved.value(QLatin1String("revision"))}),
-             QJsonArray({"Weekend", 2}));
-}
-
-void tst_AlarmHost::soundsAreSynchronisedOnConnect()
-{
-    // The plug-in fetches the server's sounds it does not have yet into the client's sound folder.
-    runHost({"--list"});
-    const QDir clientSounds(QDir(m_dataDir->path()).filePath(QStringLiteral("client-sounds")));
-    QCOMPARE(clientSounds.entryList(QDir::Files, QDir::Name),
+    for (const QJsonValue& alarm : restarted["alarms"].toArray())
+        names << alarm["name"].toString();
+    QStringList byCharacterCode = names;
+    std::sort(byCharacterCode.begin(), byCharacterCode.end(), std::greater<QString>());
+    QCOMPARE(QVariantList({restarted["count"].toInt(), names}), QVariantList({64, byCharacterCode}));
+    const QDir data(m_dataDir.path());
+    QCOMPARE(QDir(data.filePath("client-sounds")).entryList(QDir::Files),
              QStringList({"chime.mp3", "doorbell.mp3", "evacuation.mp3", "klaxon.mp3", "siren.mp3"}));
-    QFile copy(clientSounds.filePath(QStringLiteral("siren.mp3")));
-    QFile original(QDir(m_dataDir->path()).filePath(QStringLiteral("sounds/siren.mp3")));
+    QFile copy(data.filePath("client-sounds/siren.mp3"));
+    QFile original(data.filePath("sounds/siren.mp3"));
     QVERIFY(copy.open(QIODevice::ReadOnly) && original.open(QIODevice::ReadOnly));
     QCOMPARE(copy.readAll(), original.readAll());
 }
 
-void tst_AlarmHost::firedTriggerReachesTheUser()
-{
-    const QJsonObject output = runHost({"--fire", "Open gate"});
-
-    const QJsonObject step = output.value(QLatin1String("steps")).toArray().at(0).toObject();
-    QVERIFY2(step.value(QLatin1String("success")).toBool(), qPrintable(QJsonDocument(step).toJson()));
-    QJsonArray triggered;
-    QJsonArray notifications;
-    for (const QJsonValue& signal : step.value(QLatin1String("signals")).toArray()) {
-        const QString name = signal.toObject().value(QLatin1String("signal")).toString();
-        if (name == QLatin1String("alarmTriggered"))
-            triggered.append(signal.toObject().value(QLatin1String("arguments")));
-        if (name == QLatin1String("clientNotification"))
-            notifications.append(signal.toObject().value(QLatin1String("arguments")));
-    }
-    QCOMPARE(triggered.size(), 1);
-    const QJsonArray alarm = triggered.at(0).toArray();
-    // name, type, node, event, value, device, alarm id
-    QCOMPARE(QJsonArray({alarm.at(0), alarm.at(1), alarm.at(2), alarm.at(4), alarm.at(6), alarm.at(7), alarm.at(8)}),
-             QJsonArray({"Operator: open main gate", "VirtualTrigger", "cam-01", "VirtualTrigger", "Open gate",
-                         "Main gate entry", "1057"}));
-    QVERIFY(alarm.at(3).toDouble() > 0);
-    QCOMPARE(notifications.size(), 1);
-    QCOMPARE(notifications.at(0).toArray().at(0).toInt(), 1);
-    QCOMPARE(notifications.at(0).toArray().at(1).toArray(), QJsonArray({"cam-01"}));
-    QCOMPARE(notifications.at(0).toArray().at(2), alarm.at(9));
-}
-
-void tst_AlarmHost::disabledRuleDoesNotFire()
-{
-    const QJsonObject output = runHost({"--toggle", "1057:off", "--fire", "Open gate"}, 1);
-
-    const QJsonArray steps = output.value(QLatin1String("steps")).toArray();
-    QCOMPARE(steps.size(), 2);
-    QVERIFY(steps.at(0).toObject().value(QLatin1String("success")).toBool());
-    QVERIFY(!steps.at(1).toObject().value(QLatin1String("success")).toBool());
-    for (const QJsonValue& signal : steps.at(1).toObject().value(QLatin1String("signals")).toArray())
-        QVERIFY(signal.toObject().value(QLatin1String("signal")).toString() != QLatin1String("alarmTriggered"));
-}
-
 void tst_AlarmHost::unknownSortRoleIsAnError()
 {
-    const QJsonObject output = runHost({"--list", "--sort", "colourRole"}, 2);
-    QCOMPARE(output, QJsonObject());
+    QCOMPARE(runHost({"--list", "--sort", "colourRole"}, 2), QJsonObject());
 }
 
 QTEST_MAIN(tst_AlarmHost)

@@ -1,209 +1,106 @@
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "AudioFileManager.h"
 
+// The local sound folder: where it is made, which files count as sounds, saving without truncation, release.
+class tst_AudioFileManager : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initialMakesTheFolder_data();
+    void initialMakesTheFolder();
+    void soundsAreKeptUntilRelease();
+    void storeWithoutFolderTouchesNothing();
+};
+
 namespace {
 
-bool writeFile(const QString& path, const QByteArray& content)
+QByteArray contentOf(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList sorted(QStringList names)
-{
-    names.sort();
-    return names;
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
 }
 
 } // namespace
 
-class tst_AudioFileManager : public QObject
+void tst_AudioFileManager::initialMakesTheFolder_data()
 {
-    Q_OBJECT
-
-private slots:
-    void initial_data();
-    void initial();
-    void fileList_data();
-    void fileList();
-    void saveWritesNewFile();
-    void saveOverwritesWithoutTruncating();
-    void saveFailsWhenNameIsADirectory();
-    void releaseRemovesEverything();
-    void storeWithoutPathLeavesCurrentDirectoryAlone();
-};
-
-void tst_AudioFileManager::initial_data()
-{
-    QTest::addColumn<QString>("existingFile");
     QTest::addColumn<QString>("directory");
     QTest::addColumn<bool>("isReady");
     QTest::addColumn<QStringList>("rootEntries");
-
-    QTest::newRow("existing directory is used as it is") << "a.mp3" << "" << true << QStringList{"a.mp3"};
-    QTest::newRow("missing parents are created") << "" << "client/alarm/sounds" << true << QStringList{"client"};
-    // Tests run as root, so permissions alone would not stop the directory from being made.
-    QTest::newRow("below a regular file fails but keeps the path")
-        << "settings.ini" << "settings.ini/sounds" << false << QStringList{"settings.ini"};
+    QTest::newRow("existing folder used as it is") << "" << true << QStringList{"settings.ini"};
+    QTest::newRow("missing parents are made") << "client/sounds" << true << QStringList{"client", "settings.ini"};
+    // Tests run as root, so a permission alone would not stop the folder from being made.
+    QTest::newRow("below a file fails, path kept") << "settings.ini/sounds" << false << QStringList{"settings.ini"};
 }
 
-void tst_AudioFileManager::initial()
+void tst_AudioFileManager::initialMakesTheFolder()
 {
-    QFETCH(QString, existingFile);
     QFETCH(QString, directory);
     QFETCH(bool, isReady);
     QFETCH(QStringList, rootEntries);
     QTemporaryDir root;
-    QVERIFY(root.isValid());
-    QVERIFY(existingFile.isEmpty() || writeFile(root.filePath(existingFile), "ID3"));
+    QFile settings(root.filePath("settings.ini"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
     const QString path = directory.isEmpty() ? root.path() : root.filePath(directory);
 
     AudioFileManager store;
     QCOMPARE(store.initial(path), isReady);
 
-    QCOMPARE(store.directoryPath(), path);
-    QCOMPARE(QFileInfo(path).isDir(), isReady);
+    QCOMPARE(QStringList({store.directoryPath(), QFileInfo(path).isDir() ? "folder" : "none"}),
+             QStringList({path, isReady ? "folder" : "none"}));
     QCOMPARE(QDir(root.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), rootEntries);
-
-    AudioFileManager withoutPath;
-    QVERIFY(!withoutPath.initial(QString()));
-    QCOMPARE(withoutPath.directoryPath(), QString());
 }
 
-void tst_AudioFileManager::fileList_data()
+void tst_AudioFileManager::soundsAreKeptUntilRelease()
 {
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QStringList>("directories");
-    QTest::addColumn<QStringList>("expected");
-
-    QTest::newRow("empty directory") << QStringList() << QStringList() << QStringList();
-    QTest::newRow("mp3 in any letter case")
-        << QStringList{"a.mp3", "a.MP3", "b.Mp3"} << QStringList() << QStringList{"a.MP3", "a.mp3", "b.Mp3"};
-    QTest::newRow("other extensions left out")
-        << QStringList{"a.mp3", "b.wav", "c.mp3.part", "mp3"} << QStringList() << QStringList{"a.mp3"};
-    QTest::newRow("directory named like a sound left out")
-        << QStringList{"a.mp3"} << QStringList{"c.mp3"} << QStringList{"a.mp3"};
-    QTest::newRow("hidden file left out")
-        << QStringList{".hidden.mp3", "a.mp3"} << QStringList() << QStringList{"a.mp3"};
-}
-
-void tst_AudioFileManager::fileList()
-{
-    QFETCH(QStringList, files);
-    QFETCH(QStringList, directories);
-    QFETCH(QStringList, expected);
-
-    // Given a store directory holding the files and subdirectories
+    // Given a sound saved over a longer one of the same name, a sound in capitals, a text file, and a folder
+    // named like a sound
     QTemporaryDir root;
-    QVERIFY(root.isValid());
-    for (const QString& name : files)
-        QVERIFY(writeFile(root.filePath(name), "ID3"));
-    for (const QString& name : directories)
-        QVERIFY(QDir(root.path()).mkdir(name));
-    AudioFileManager store;
-    QVERIFY(store.initial(root.path()));
-
-    // When it lists its sounds (in file-system order, so sorted here)
-    const QStringList names = store.getFileList();
-
-    // Then only the regular *.mp3 files are named
-    QCOMPARE(sorted(names), expected);
-}
-
-void tst_AudioFileManager::saveWritesNewFile()
-{
-    QTemporaryDir root;
-    QVERIFY(root.isValid());
-    AudioFileManager store;
-    QVERIFY(store.initial(root.path()));
-
-    QVERIFY(store.save("siren.mp3", QByteArray("ID3\x04\x00siren", 10)));
-
-    QCOMPARE(readFile(root.filePath("siren.mp3")), QByteArray("ID3\x04\x00siren", 10));
-    QCOMPARE(store.getFileList(), QStringList{"siren.mp3"});
-}
-
-void tst_AudioFileManager::saveOverwritesWithoutTruncating()
-{
-    // Given a 20-byte sound already stored
-    QTemporaryDir root;
-    QVERIFY(root.isValid());
-    AudioFileManager store;
-    QVERIFY(store.initial(root.path()));
-    QVERIFY(store.save("x.mp3", "abcdefghijklmnopqrst"));
-
-    // When a 10-byte sound of the same name is saved
-    const bool isSaved = store.save("x.mp3", "0123456789");
-
-    // Then the new bytes lead and the old tail stays
-    QVERIFY(isSaved);
-    QCOMPARE(readFile(root.filePath("x.mp3")), QByteArray("0123456789klmnopqrst"));
-}
-
-void tst_AudioFileManager::saveFailsWhenNameIsADirectory()
-{
-    QTemporaryDir root;
-    QVERIFY(root.isValid());
-    QVERIFY(QDir(root.path()).mkdir("c.mp3"));
-    AudioFileManager store;
-    QVERIFY(store.initial(root.path()));
-
-    QVERIFY(!store.save("c.mp3", "ID3"));
-}
-
-void tst_AudioFileManager::releaseRemovesEverything()
-{
-    // Given a store with sounds and a stray subdirectory
-    QTemporaryDir root;
-    QVERIFY(root.isValid());
     const QString path = root.filePath("sounds");
     AudioFileManager store;
     QVERIFY(store.initial(path));
-    QVERIFY(store.save("a.mp3", "ID3"));
-    QVERIFY(QDir(path).mkdir("old"));
-    QVERIFY(writeFile(path + "/old/b.mp3", "ID3"));
+    QVERIFY(store.save("x.mp3", "abcdefghijklmnopqrst"));
+    QVERIFY(store.save("x.mp3", "0123456789"));
+    QVERIFY(store.save("B.MP3", "ID3") && store.save("notes.txt", "ID3") && QDir(path).mkdir("c.mp3"));
+    QVERIFY(!store.save("c.mp3", "ID3"));
 
-    // When it is released
+    // Then the new bytes lead and the old tail stays, and only the sound files are listed
+    QCOMPARE(contentOf(path + "/x.mp3"), QByteArray("0123456789klmnopqrst"));
+    QStringList names = store.getFileList();
+    names.sort();
+    QCOMPARE(names, QStringList({"B.MP3", "x.mp3"}));
+
+    // When released, the folder is gone with everything in it, the path is kept and nothing saves until initial
     store.release();
-
-    // Then the directory is gone, the path kept, nothing is listed and saving fails until initial again
     QVERIFY(!QFileInfo::exists(path));
     QCOMPARE(store.directoryPath(), path);
     QCOMPARE(store.getFileList(), QStringList());
-    QVERIFY(!store.save("a.mp3", "ID3"));
-    QVERIFY(store.initial(path));
-    QVERIFY(store.save("a.mp3", "ID3"));
+    QVERIFY(!store.save("x.mp3", "ID3"));
 }
 
-void tst_AudioFileManager::storeWithoutPathLeavesCurrentDirectoryAlone()
+void tst_AudioFileManager::storeWithoutFolderTouchesNothing()
 {
-    // Given a store that was never given a directory, run inside a scratch working directory
+    // Given a store that was never given a folder, running in a scratch working directory with a sound
     QTemporaryDir root;
-    QVERIFY(root.isValid());
-    QVERIFY(writeFile(root.filePath("keep.mp3"), "ID3"));
     const QString previous = QDir::currentPath();
     QVERIFY(QDir::setCurrent(root.path()));
+    QFile sound("keep.mp3");
+    QVERIFY(sound.open(QIODevice::WriteOnly));
     AudioFileManager store;
 
-    // When it lists and is released
+    // When it is given an empty path, lists and is released
+    const bool isReady = store.initial(QString());
     const QStringList names = store.getFileList();
     store.release();
     QVERIFY(QDir::setCurrent(previous));
 
     // Then it saw nothing there and removed nothing
-    QCOMPARE(names, QStringList());
+    QCOMPARE(QVariantList({isReady, names}), QVariantList({false, QStringList()}));
     QVERIFY(QFileInfo::exists(root.filePath("keep.mp3")));
 }
 
-QTEST_MAIN(tst_AudioFileManager)
+QTEST_GUILESS_MAIN(tst_AudioFileManager)
 #include "tst_audiofilemanager.moc"
