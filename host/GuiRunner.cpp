@@ -214,6 +214,12 @@ void GuiRunner::listArrived()
     QObject* window = m_engine->rootObjects().value(0);
     for (const QString& choice : std::as_const(m_settings.pageActions)) {
         const QString action = choice.section(QLatin1Char(':'), 0, 0);
+        if (action == QLatin1String("language")) {
+            // What the page's language box does; the list comes again in the new language.
+            setLanguage(choice.section(QLatin1Char(':'), 1));
+            m_awaitedSignals.append(QStringLiteral("getAlarmResp"));
+            continue;
+        }
         QVariant isDone;
         QMetaObject::invokeMethod(window, "performAction", Q_RETURN_ARG(QVariant, isDone), Q_ARG(QVariant, action),
                                   Q_ARG(QVariant, choice.section(QLatin1Char(':'), 1, 1)),
@@ -280,7 +286,8 @@ void GuiRunner::takeScreenshot()
                                  {QStringLiteral("firedCount"), fired ? fired->property("count").toInt() : -1},
                                  {QStringLiteral("language"), m_language},
                                  {QStringLiteral("untranslated"), QJsonArray::fromStringList(untranslated)},
-                                 {QStringLiteral("rows"), QJsonDocument::fromJson(rows.toString().toUtf8()).array()}};
+                                 {QStringLiteral("rows"), QJsonDocument::fromJson(rows.toString().toUtf8()).array()},
+                                 {QStringLiteral("visibleTexts"), QJsonArray::fromStringList(visibleTexts)}};
         QTextStream(stdout) << QJsonDocument(report).toJson(QJsonDocument::Indented);
         QCoreApplication::exit(isSaved ? 0 : 2);
     });

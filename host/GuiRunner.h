@@ -34,7 +34,7 @@ public:
         QString cameraId;
         QStringList fires;
         int editorRow = -1;
-        // "disable:1001", "delete:1002", "duplicate:1003", "edit:1001:-action 1,+action SMS"
+        // "disable:1001", "delete:1002", "duplicate:1003", "edit:1001:-action 1,+action SMS", "language:de"
         QStringList pageActions;
         int timeoutMs = 10000;
     };

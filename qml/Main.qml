@@ -639,7 +639,8 @@ ApplicationWindow {
                             from: 1
                             to: 365
                             editable: true
-                            textFromValue: function(value) { return qsTr("%n day(s)", "", value) }
+                            // Made again on a language switch, so the shown text follows.
+                            textFromValue: { host.language; return function(value) { return qsTr("%n day(s)", "", value) } }
                             valueFromText: function(text) { return parseInt(text) || 1 }
                             Accessible.name: qsTr("Keep alarm records")
                         }
@@ -657,7 +658,7 @@ ApplicationWindow {
                             to: 1440
                             value: 15
                             editable: true
-                            textFromValue: function(value) { return qsTr("%n minute(s)", "", value) }
+                            textFromValue: { host.language; return function(value) { return qsTr("%n minute(s)", "", value) } }
                             valueFromText: function(text) { return parseInt(text) || 1 }
                             Accessible.name: qsTr("Pause all alarms")
                         }
@@ -764,6 +765,7 @@ ApplicationWindow {
     Dialog {
         id: confirmDelete
         anchors.centerIn: parent
+        width: 420
         modal: true
         title: qsTr("Delete alarms")
         standardButtons: Dialog.Yes | Dialog.No
