@@ -12,6 +12,8 @@
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QLocale>
 #include <QQmlApplicationEngine>
 #include <QJsonArray>
@@ -214,6 +216,14 @@ void GuiRunner::listArrived()
     QObject* window = m_engine->rootObjects().value(0);
     for (const QString& choice : std::as_const(m_settings.pageActions)) {
         const QString action = choice.section(QLatin1Char(':'), 0, 0);
+        if (action == QLatin1String("keys")) {
+            // Keys typed one after another, the way a user without a mouse works the page; "Delete" at
+            // the end of a run deletes after the confirmation.
+            pressKeys(choice.section(QLatin1Char(':'), 1).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+            if (choice.contains(QLatin1String("Delete")))
+                m_awaitedSignals.append(QStringLiteral("deleteAlarmsResp"));
+            continue;
+        }
         if (action == QLatin1String("language")) {
             // What the page's language box does; the list comes again in the new language.
             setLanguage(choice.section(QLatin1Char(':'), 1));
@@ -235,6 +245,24 @@ void GuiRunner::listArrived()
     }
     if (m_isScreenshotPending && m_awaitedSignals.isEmpty())
         takeScreenshot();
+}
+
+void GuiRunner::pressKeys(const QStringList& keys)
+{
+    auto* window = qobject_cast<QQuickWindow*>(m_engine->rootObjects().value(0));
+    // Keys go to the active window's focused item; dialogs take their focus once they have opened, and a
+    // pause between keys lets them.
+    if (window)
+        window->requestActivate();
+    for (qsizetype i = 0; window && i < keys.size(); ++i) {
+        QTimer::singleShot(100 * (i + 1), window, [window, key = keys.at(i)] {
+            const QKeyCombination combination = QKeySequence::fromString(key)[0];
+            for (QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+                QKeyEvent event(type, combination.key(), combination.keyboardModifiers());
+                QCoreApplication::sendEvent(window, &event);
+            }
+        });
+    }
 }
 
 void GuiRunner::takeScreenshot()

@@ -34,7 +34,8 @@ public:
         QString cameraId;
         QStringList fires;
         int editorRow = -1;
-        // "disable:1001", "delete:1002", "duplicate:1003", "edit:1001:-action 1,+action SMS", "language:de"
+        // "disable:1001", "delete:1002", "duplicate:1003", "edit:1001:-action 1,+action SMS", "language:de",
+        // "keys:Down Space Delete Return"
         QStringList pageActions;
         int timeoutMs = 10000;
     };
@@ -61,6 +62,7 @@ signals:
 private:
     bool applyTranslator(const QString& language);
     void listArrived();
+    void pressKeys(const QStringList& keys);
     void takeScreenshot();
 
     AlarmHost* m_host;

@@ -182,6 +182,8 @@ ApplicationWindow {
     Component.onCompleted: {
         alarmManager.getAlarmSoundList()
         alarmManager.getReserveTime()
+        // Keyboard work starts in the search field; Down goes on into the list.
+        searchField.forceActiveFocus()
     }
     Shortcut { sequence: StandardKey.Find; onActivated: searchField.forceActiveFocus() }
     Shortcut { sequence: StandardKey.Refresh; onActivated: reload() }

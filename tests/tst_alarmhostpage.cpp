@@ -91,6 +91,9 @@ void tst_AlarmHostPage::pageShows_data()
     QTest::newRow("in Traditional Chinese") << "alarm-page-zh_TW.png" << QStringList({"--language", "zh_TW"}) << 64 << 0;
     QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4 << 0;
     QTest::newRow("editor open") << "alarm-page-editor.png" << QStringList({"--editor-row", "0"}) << 64 << 0;
+    // Without a mouse: from the search field down to the second rule, select it, delete it, confirm.
+    QTest::newRow("keyboard deletes") << "alarm-page-keys.png" << QStringList({"--page-action", "keys:Down Down Space Delete Return"})
+                                      << 63 << 0;
     // The lockdown rule fires with a sound and an e-map notification.
     QTest::newRow("fired alarm in the panel") << "alarm-page-fired.png"
                                               << QStringList({"--camera", "cam-03", "--search", "lockdown", "--fire",
@@ -100,11 +103,11 @@ void tst_AlarmHostPage::pageShows_data()
 
 void tst_AlarmHostPage::pageShows()
 {
+#ifdef ALARM_HOST_ARTEFACT_DIR
     QFETCH(QString, fileName);
     QFETCH(QStringList, arguments);
     QFETCH(int, listCount);
     QFETCH(int, firedCount);
-#ifdef ALARM_HOST_ARTEFACT_DIR
     const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(fileName);
     QFile::remove(file);
 
@@ -123,11 +126,6 @@ void tst_AlarmHostPage::pageShows()
             colours.insert(image.pixel(x, y));
     }
     QVERIFY2(colours.size() > 40, qPrintable(QString::number(colours.size())));
-#else
-    Q_UNUSED(fileName);
-    Q_UNUSED(arguments);
-    Q_UNUSED(listCount);
-    Q_UNUSED(firedCount);
 #endif
 }
 
