@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModel>
 #include <QDomDocument>
+#include <QMap>
 #include <QSet>
 #include <QTextStream>
 #include <QXmlStreamReader>
@@ -122,6 +123,30 @@ QString RuleEntries::pickerOf(const QString& element, const QString& parent, con
     return QString();
 }
 
+QString RuleEntries::firstPicker(const QDomElement& root)
+{
+    // A mail's snapshot cameras are extras, not whom it goes to.
+    const QString entryTag = root.firstChildElement().tagName();
+    if (entryTag == QLatin1String("SendMail"))
+        return QString();
+    QString picker;
+    forEachElement(root, [&](const QDomElement& element) {
+        if (picker.isEmpty())
+            picker = pickerOf(element.tagName(), element.parentNode().toElement().tagName(), entryTag);
+    });
+    return picker;
+}
+
+QString RuleEntries::fieldOf(const QString& kind)
+{
+    static const QMap<QString, QString> fields{{QStringLiteral("SendMail"), QStringLiteral("To")},
+                                               {QStringLiteral("SMS"), QStringLiteral("PhoneNum")},
+                                               {QStringLiteral("HTTP"), QStringLiteral("URL")},
+                                               {QStringLiteral("FTP"), QStringLiteral("Path")},
+                                               {QStringLiteral("LaunchProgram"), QStringLiteral("Path")}};
+    return fields.value(kind);
+}
+
 QStringList RuleEntries::templates(const QString& tag) const
 {
     QStringList found;
@@ -146,19 +171,15 @@ QVariantList RuleEntries::kinds(const QString& tag) const
     for (const QString& entry : templates(tag)) {
         QDomDocument document;
         document.setContent(entry);
-        const QDomElement root = document.documentElement();
-        const QString entryTag = root.firstChildElement().tagName();
-        QString picker;
-        forEachElement(root, [&](const QDomElement& element) {
-            if (picker.isEmpty())
-                picker = pickerOf(element.tagName(), element.parentNode().toElement().tagName(), entryTag);
-        });
-        kinds.append(QVariantMap{{QStringLiteral("kind"), kindOf(entry)}, {QStringLiteral("picker"), picker}});
+        const QString kind = kindOf(entry);
+        kinds.append(QVariantMap{{QStringLiteral("kind"), kind},
+                                 {QStringLiteral("picker"), firstPicker(document.documentElement())},
+                                 {QStringLiteral("field"), fieldOf(kind)}});
     }
     return kinds;
 }
 
-QString RuleEntries::make(const QString& tag, const QString& kind, const QString& device) const
+QString RuleEntries::make(const QString& tag, const QString& kind, const QString& device, const QString& text) const
 {
     for (const QString& entry : templates(tag)) {
         if (kindOf(entry) != kind)
@@ -167,14 +188,12 @@ QString RuleEntries::make(const QString& tag, const QString& kind, const QString
         document.setContent(entry);
         const QDomElement root = document.documentElement();
         const QString entryTag = root.firstChildElement().tagName();
-        QString picker;
+        const QString picker = firstPicker(root);
         QSet<QString> filled;
         QList<QDomElement> surplus;
         forEachElement(root, [&](QDomElement element) {
             const QString parent = element.parentNode().toElement().tagName();
             const QString elementPicker = pickerOf(element.tagName(), parent, entryTag);
-            if (picker.isEmpty())
-                picker = elementPicker;
             if (!elementPicker.isEmpty() && elementPicker == picker) {
                 // One device per new entry: the first place it goes is filled, repeats are dropped.
                 const QString place = parent + QLatin1Char('/') + element.tagName();
@@ -194,6 +213,12 @@ QString RuleEntries::make(const QString& tag, const QString& kind, const QString
         });
         for (QDomElement& element : surplus)
             element.parentNode().removeChild(element);
+        QDomElement field = root.firstChildElement().firstChildElement(fieldOf(kind));
+        if (!text.isEmpty() && !field.isNull()) {
+            while (field.hasChildNodes())
+                field.removeChild(field.firstChild());
+            field.appendChild(document.createTextNode(text));
+        }
         // A new virtual trigger is a new button: it takes the next free id of the site.
         QDomElement virtualTrigger = root.firstChildElement(QStringLiteral("VirtualTrigger"));
         if (!virtualTrigger.isNull()) {

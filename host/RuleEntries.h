@@ -6,6 +6,7 @@
 #include <QVariant>
 
 class QAbstractItemModel;
+class QDomElement;
 class Site;
 
 // The rule editor's view of a rule's trigger and action lists: one entry per child element, kept as the
@@ -25,11 +26,14 @@ public:
     // Kind of one entry: a trigger's event type (with the analytics type for "VCA" and "Thermal", as in
     // "VCA/LineDetection"); an action's element (with the notification type, "ClientNotification/GoToEMap").
     Q_INVOKABLE QString kindOf(const QString& entryXml) const;
-    // The kinds the site's rules hold, as {"kind", "picker"} in order of first use; picker names the list
-    // the device comes from: "camera", "station", "io", "output", "map", "sound", "role", "audio" or "".
+    // The kinds the site's rules hold, as {"kind", "picker", "field"} in order of first use; picker names
+    // the list the device comes from: "camera", "station", "io", "output", "map", "sound", "role" or "";
+    // field is the element a typed text goes to (a mail's "To", an SMS's "PhoneNum", a URL, a path) or "".
     Q_INVOKABLE QVariantList kinds(const QString& tag) const;
-    // A new entry of that kind for the device (an id, or a name for "sound"); "" for an unknown kind.
-    Q_INVOKABLE QString make(const QString& tag, const QString& kind, const QString& device) const;
+    // A new entry of that kind for the device (an id, or a name for "sound") with the typed text, when
+    // given, in its field; "" for a kind the site's rules do not hold.
+    Q_INVOKABLE QString make(const QString& tag, const QString& kind, const QString& device,
+                             const QString& text = QString()) const;
     // The device an entry names first ("" for none), for its line in the editor.
     Q_INVOKABLE QString deviceOf(const QString& entryXml) const;
 
@@ -43,6 +47,8 @@ public:
 
 private:
     static QString pickerOf(const QString& element, const QString& parent, const QString& entryTag);
+    static QString firstPicker(const QDomElement& root);
+    static QString fieldOf(const QString& kind);
     QStringList templates(const QString& tag) const;
 
     const Site* m_site;

@@ -9,7 +9,7 @@ GroupBox {
     id: list
 
     property string tag: "TriggerList"   // or "ActionList"
-    property var kinds: []                 // [{ "kind", "picker", "text" }]
+    property var kinds: []                 // [{ "kind", "picker", "field", "text" }]
     property var pickers: ({})             // picker name -> [{ "id", "name" }]
     readonly property alias entries: entryModel
     property bool changed: false
@@ -33,12 +33,12 @@ GroupBox {
         changed = true
     }
     // Adds an entry of the kind on the device; false when the site's rules hold no such kind.
-    function add(kind, device, deviceName, kindText) {
-        var xml = ruleEntries.make(tag, kind, device)
+    function add(kind, device, deviceName, kindText, text) {
+        var xml = ruleEntries.make(tag, kind, device, text || "")
         if (xml === "")
             return false
         entryModel.append({ "xml": xml, "kind": kind, "isNew": true,
-                            "label": kindText + (deviceName !== "" ? " - " + deviceName : "") })
+                            "label": kindText + (deviceName !== "" ? " - " + deviceName : "") + (text ? " - " + text : "") })
         changed = true
         return true
     }
@@ -93,8 +93,9 @@ GroupBox {
             }
             ComboBox {
                 id: deviceBox
-                readonly property string picker: kindBox.currentIndex >= 0 && list.kinds.length > kindBox.currentIndex
-                                                 ? list.kinds[kindBox.currentIndex].picker : ""
+                readonly property var kind: kindBox.currentIndex >= 0 && list.kinds.length > kindBox.currentIndex
+                                            ? list.kinds[kindBox.currentIndex] : ({})
+                readonly property string picker: kind.picker || ""
                 visible: picker !== ""
                 Layout.fillWidth: true
                 model: list.pickers[picker] || []
@@ -102,11 +103,21 @@ GroupBox {
                 valueRole: "id"
                 Accessible.name: qsTr("Device")
             }
+            // Whom a mail or message goes to, the address of a request, the path of a program.
+            TextField {
+                id: fieldText
+                visible: !!deviceBox.kind.field
+                Layout.fillWidth: true
+                selectByMouse: true
+                placeholderText: qsTr("Recipient, number, address or path (empty: as in the site's rules)")
+                Accessible.name: placeholderText
+            }
             Button {
                 text: qsTr("Add")
                 enabled: kindBox.currentIndex >= 0
                 onClicked: list.add(kindBox.currentValue, deviceBox.visible ? String(deviceBox.currentValue) : "",
-                                    deviceBox.visible ? deviceBox.currentText : "", kindBox.currentText)
+                                    deviceBox.visible ? deviceBox.currentText : "", kindBox.currentText,
+                                    fieldText.visible ? fieldText.text.trim() : "")
             }
         }
     }

@@ -35,12 +35,17 @@
         <translation>Art der Aktion</translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="103"/>
+        <location filename="../qml/EntryList.qml" line="104"/>
         <source>Device</source>
         <translation>Gerät</translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="106"/>
+        <location filename="../qml/EntryList.qml" line="112"/>
+        <source>Recipient, number, address or path (empty: as in the site&apos;s rules)</source>
+        <translation>Empfänger, Nummer, Adresse oder Pfad (leer: wie in den Regeln des Standorts)</translation>
+    </message>
+    <message>
+        <location filename="../qml/EntryList.qml" line="116"/>
         <source>Add</source>
         <translation>Hinzufügen</translation>
     </message>

@@ -35,12 +35,17 @@
         <translation>動作類型</translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="103"/>
+        <location filename="../qml/EntryList.qml" line="104"/>
         <source>Device</source>
         <translation>裝置</translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="106"/>
+        <location filename="../qml/EntryList.qml" line="112"/>
+        <source>Recipient, number, address or path (empty: as in the site&apos;s rules)</source>
+        <translation>收件者、號碼、位址或路徑（留空：與站點規則相同）</translation>
+    </message>
+    <message>
+        <location filename="../qml/EntryList.qml" line="116"/>
         <source>Add</source>
         <translation>新增</translation>
     </message>
