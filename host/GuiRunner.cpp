@@ -7,16 +7,16 @@
 
 #include <QAbstractItemModel>
 #include <QDir>
-#include <QGuiApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QImage>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLocale>
 #include <QQmlApplicationEngine>
-#include <QJsonArray>
 #include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickStyle>
