@@ -258,12 +258,11 @@ ApplicationWindow {
             note(success ? qsTr("Virtual trigger sent") : qsTr("No active alarm holds this trigger"))
         }
         function onAlarmTriggered(name, type, nodeID, serverTime, eventType, eventIndex, eventValue, deviceName, alarmId, timecardId) {
-            firedModel.insert(0, { "kind": "alarm", "title": name, "nodeId": nodeID,
+            firedModel.insert(0, { "kind": "alarm", "type": -1, "title": name, "nodeId": nodeID,
                                    "detail": deviceName + " - " + eventType + (eventValue !== "" ? ": " + eventValue : ""),
                                    "time": new Date(serverTime).toLocaleTimeString(Qt.locale(), "hh:mm:ss") })
         }
         function onClientNotification(type, data, timecardId) {
-            var kinds = [qsTr("Go to E-Map"), qsTr("Popup window"), qsTr("Sound the alarm")]
             var items = []
             var sounds = []
             var maps = []
@@ -280,8 +279,9 @@ ApplicationWindow {
             }
             if (type === 2)
                 window.soundTheAlarm(sounds)
-            // An e-map notification opens a map tab per map; each can be closed on its own.
-            firedModel.insert(0, { "kind": type === 0 ? "map" : "notification", "title": kinds[type] || "",
+            // An e-map notification opens a map tab, which "Close map tabs" closes by its map. Its title is
+            // made when shown, so that it follows the language.
+            firedModel.insert(0, { "kind": type === 0 ? "map" : "notification", "type": type, "title": "",
                                    "nodeId": maps.length > 0 ? maps[0] : "", "detail": items.join(", "),
                                    "time": new Date().toLocaleTimeString(Qt.locale(), "hh:mm:ss") })
         }
@@ -724,6 +724,7 @@ ApplicationWindow {
                         delegate: Rectangle {
                             required property string kind
                             required property string nodeId
+                            required property int type
                             required property string title
                             required property string detail
                             required property string time
@@ -735,7 +736,13 @@ ApplicationWindow {
                                 id: firedColumn
                                 anchors.fill: parent
                                 anchors.margins: 4
-                                Label { text: time + "  " + title; font.bold: true; width: parent.width; elide: Text.ElideRight }
+                                Label {
+                                    text: time + "  " + (type < 0 ? title : [qsTr("Go to E-Map"), qsTr("Popup window"),
+                                                                              qsTr("Sound the alarm")][type] || "")
+                                    font.bold: true
+                                    width: parent.width
+                                    elide: Text.ElideRight
+                                }
                                 Label { text: detail; font.pixelSize: 11; width: parent.width; wrapMode: Text.Wrap }
                             }
                         }

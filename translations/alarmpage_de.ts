@@ -200,17 +200,17 @@
         <translation>Kein aktiver Alarm enthält diesen Auslöser</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="266"/>
+        <location filename="../qml/Main.qml" line="740"/>
         <source>Go to E-Map</source>
         <translation>Zur E-Map wechseln</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="266"/>
+        <location filename="../qml/Main.qml" line="740"/>
         <source>Popup window</source>
         <translation>Popup-Fenster</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="266"/>
+        <location filename="../qml/Main.qml" line="741"/>
         <source>Sound the alarm</source>
         <translation>Alarmton abspielen</translation>
     </message>
@@ -422,27 +422,27 @@
         <translation>Ausgelöste Alarme und Benachrichtigungen</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="747"/>
+        <location filename="../qml/Main.qml" line="754"/>
         <source>Close alarm tabs</source>
         <translation>Alarm-Tabs schließen</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="752"/>
+        <location filename="../qml/Main.qml" line="759"/>
         <source>Close map tabs</source>
         <translation>Karten-Tabs schließen</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="757"/>
+        <location filename="../qml/Main.qml" line="764"/>
         <source>Clear</source>
         <translation>Leeren</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="772"/>
+        <location filename="../qml/Main.qml" line="779"/>
         <source>Delete alarms</source>
         <translation>Alarme löschen</translation>
     </message>
     <message numerus="yes">
-        <location filename="../qml/Main.qml" line="777"/>
+        <location filename="../qml/Main.qml" line="784"/>
         <source>Delete %n selected alarm(s)?</source>
         <translation>
             <numerusform>%n ausgewählten Alarm löschen?</numerusform>

@@ -198,17 +198,17 @@
         <translation>沒有啟用中的警報包含此觸發</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="266"/>
+        <location filename="../qml/Main.qml" line="740"/>
         <source>Go to E-Map</source>
         <translation>前往電子地圖</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="266"/>
+        <location filename="../qml/Main.qml" line="740"/>
         <source>Popup window</source>
         <translation>彈出視窗</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="266"/>
+        <location filename="../qml/Main.qml" line="741"/>
         <source>Sound the alarm</source>
         <translation>播放警報聲音</translation>
     </message>
@@ -415,27 +415,27 @@
         <translation>已觸發的警報與通知</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="747"/>
+        <location filename="../qml/Main.qml" line="754"/>
         <source>Close alarm tabs</source>
         <translation>關閉警報分頁</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="752"/>
+        <location filename="../qml/Main.qml" line="759"/>
         <source>Close map tabs</source>
         <translation>關閉地圖分頁</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="757"/>
+        <location filename="../qml/Main.qml" line="764"/>
         <source>Clear</source>
         <translation>清除</translation>
     </message>
     <message>
-        <location filename="../qml/Main.qml" line="772"/>
+        <location filename="../qml/Main.qml" line="779"/>
         <source>Delete alarms</source>
         <translation>刪除警報</translation>
     </message>
     <message numerus="yes">
-        <location filename="../qml/Main.qml" line="777"/>
+        <location filename="../qml/Main.qml" line="784"/>
         <source>Delete %n selected alarm(s)?</source>
         <translation>
             <numerusform>要刪除 %n 個選取的警報嗎？</numerusform>
