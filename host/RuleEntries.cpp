@@ -143,7 +143,12 @@ QString RuleEntries::fieldOf(const QString& kind)
                                                {QStringLiteral("SMS"), QStringLiteral("PhoneNum")},
                                                {QStringLiteral("HTTP"), QStringLiteral("URL")},
                                                {QStringLiteral("FTP"), QStringLiteral("Path")},
-                                               {QStringLiteral("LaunchProgram"), QStringLiteral("Path")}};
+                                               {QStringLiteral("LaunchProgram"), QStringLiteral("Path")},
+                                               // Which input, output or motion window of the device.
+                                               {QStringLiteral("DI"), QStringLiteral("Index")},
+                                               {QStringLiteral("DO"), QStringLiteral("Index")},
+                                               {QStringLiteral("Motion"), QStringLiteral("Index")},
+                                               {QStringLiteral("ExtIODevice"), QStringLiteral("Index")}};
     return fields.value(kind);
 }
 
@@ -213,7 +218,7 @@ QString RuleEntries::make(const QString& tag, const QString& kind, const QString
         });
         for (QDomElement& element : surplus)
             element.parentNode().removeChild(element);
-        QDomElement field = root.firstChildElement().firstChildElement(fieldOf(kind));
+        QDomElement field = root.elementsByTagName(fieldOf(kind)).item(0).toElement();
         if (!text.isEmpty() && !field.isNull()) {
             while (field.hasChildNodes())
                 field.removeChild(field.firstChild());

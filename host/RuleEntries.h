@@ -28,7 +28,8 @@ public:
     Q_INVOKABLE QString kindOf(const QString& entryXml) const;
     // The kinds the site's rules hold, as {"kind", "picker", "field"} in order of first use; picker names
     // the list the device comes from: "camera", "station", "io", "output", "map", "sound", "role" or "";
-    // field is the element a typed text goes to (a mail's "To", an SMS's "PhoneNum", a URL, a path) or "".
+    // field is the element a typed text goes to (a mail's "To", an SMS's "PhoneNum", a URL, a path, the
+    // "Index" of an input, output or motion window) or "".
     Q_INVOKABLE QVariantList kinds(const QString& tag) const;
     // A new entry of that kind for the device (an id, or a name for "sound") with the typed text, when
     // given, in its field; "" for a kind the site's rules do not hold.

@@ -103,13 +103,14 @@ GroupBox {
                 valueRole: "id"
                 Accessible.name: qsTr("Device")
             }
-            // Whom a mail or message goes to, the address of a request, the path of a program.
+            // Whom a mail or message goes to, the address of a request, the path of a program, which input.
             TextField {
                 id: fieldText
                 visible: !!deviceBox.kind.field
                 Layout.fillWidth: true
                 selectByMouse: true
-                placeholderText: qsTr("Recipient, number, address or path (empty: as in the site's rules)")
+                placeholderText: deviceBox.kind.field === "Index" ? qsTr("Number of the input, output or window")
+                                                                  : qsTr("Recipient, number, address or path (empty: as in the site's rules)")
                 Accessible.name: placeholderText
             }
             Button {

@@ -199,16 +199,17 @@ Dialog {
         close()
         return isSent
     }
-    // Drives the editor the way a user would, for scripted runs: "-action 1", "+action SMS",
-    // "+trigger Motion cam-02", separated by commas, then saves.
+    // Drives the editor the way a user would, for scripted runs: "-action 1", "+action SMS - +49 151 1",
+    // "+trigger DI cam-02 2" (kind, device or "-", typed text), separated by commas, then saves.
     function perform(script) {
         var steps = script.split(",")
         for (var i = 0; i < steps.length; ++i) {
             var words = steps[i].trim().split(" ")
             var target = words[0].substring(1) === "trigger" ? triggerList : actionList
+            var device = words[2] && words[2] !== "-" ? words[2] : ""
             if (words[0][0] === "-")
                 target.remove(Number(words[1]))
-            else if (!target.add(words[1], words[2] || "", deviceName(words[2] || ""), kindText(words[1])))
+            else if (!target.add(words[1], device, deviceName(device), kindText(words[1]), words.slice(3).join(" ")))
                 return false
         }
         return save()

@@ -41,11 +41,16 @@
     </message>
     <message>
         <location filename="../qml/EntryList.qml" line="112"/>
+        <source>Number of the input, output or window</source>
+        <translation>Nummer des Eingangs, Ausgangs oder Fensters</translation>
+    </message>
+    <message>
+        <location filename="../qml/EntryList.qml" line="113"/>
         <source>Recipient, number, address or path (empty: as in the site&apos;s rules)</source>
         <translation>Empfänger, Nummer, Adresse oder Pfad (leer: wie in den Regeln des Standorts)</translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="116"/>
+        <location filename="../qml/EntryList.qml" line="117"/>
         <source>Add</source>
         <translation>Hinzufügen</translation>
     </message>

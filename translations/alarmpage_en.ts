@@ -41,11 +41,16 @@
     </message>
     <message>
         <location filename="../qml/EntryList.qml" line="112"/>
+        <source>Number of the input, output or window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <location filename="../qml/EntryList.qml" line="113"/>
         <source>Recipient, number, address or path (empty: as in the site&apos;s rules)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="116"/>
+        <location filename="../qml/EntryList.qml" line="117"/>
         <source>Add</source>
         <translation type="unfinished"></translation>
     </message>

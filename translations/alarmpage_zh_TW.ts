@@ -41,11 +41,16 @@
     </message>
     <message>
         <location filename="../qml/EntryList.qml" line="112"/>
+        <source>Number of the input, output or window</source>
+        <translation>輸入、輸出或視窗的編號</translation>
+    </message>
+    <message>
+        <location filename="../qml/EntryList.qml" line="113"/>
         <source>Recipient, number, address or path (empty: as in the site&apos;s rules)</source>
         <translation>收件者、號碼、位址或路徑（留空：與站點規則相同）</translation>
     </message>
     <message>
-        <location filename="../qml/EntryList.qml" line="116"/>
+        <location filename="../qml/EntryList.qml" line="117"/>
         <source>Add</source>
         <translation>新增</translation>
     </message>
