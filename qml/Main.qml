@@ -641,8 +641,9 @@ ApplicationWindow {
                             from: 1
                             to: 365
                             editable: true
-                            // Made again on a language switch, so the shown text follows.
-                            textFromValue: { host.language; return function(value) { return qsTr("%n day(s)", "", value) } }
+                            // The page's language: a switch redraws the text, in the new words.
+                            locale: Qt.locale(host.language)
+                            textFromValue: function(value) { return qsTr("%n day(s)", "", value) }
                             valueFromText: function(text) { return parseInt(text) || 1 }
                             Accessible.name: qsTr("Keep alarm records")
                         }
@@ -660,7 +661,8 @@ ApplicationWindow {
                             to: 1440
                             value: 15
                             editable: true
-                            textFromValue: { host.language; return function(value) { return qsTr("%n minute(s)", "", value) } }
+                            locale: Qt.locale(host.language)
+                            textFromValue: function(value) { return qsTr("%n minute(s)", "", value) }
                             valueFromText: function(text) { return parseInt(text) || 1 }
                             Accessible.name: qsTr("Pause all alarms")
                         }
