@@ -14,7 +14,7 @@ packages=(cmake ninja-build g++ pkg-config
           qt6-base-dev qt6-tools-dev qt6-l10n-tools libpugixml-dev libbenchmark-dev
           qt6-declarative-dev qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-layouts
           qml6-module-qtquick-templates qml6-module-qtquick-window qml6-module-qtqml-workerscript
-          qt6-qpa-plugins fonts-dejavu-core)
+          qml6-module-qtmultimedia qt6-qpa-plugins fonts-dejavu-core fonts-wqy-microhei)
 
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 

@@ -12,11 +12,14 @@ class QCoreApplication;
 class QQmlApplicationEngine;
 class QTranslator;
 class EnabledStateFilter;
+class PageTranslator;
+class RuleEntries;
 
 // The host with the example QML page. QML sees the plug-in as "alarmManager", the site as "site", the
 // page's enabled/disabled switch over the plug-in's list as "alarmList", and this object as "host"
-// (languages, reconnect). With a screenshot path it renders offscreen, saves the window once the list is
-// there, prints what the list shows as JSON and exits.
+// (languages, reconnect, sound files) and the editor's entry lists as "ruleEntries". With a screenshot path
+// it renders offscreen, saves the window once the list is there, prints what the page shows as JSON
+// (with the page's labels that found no translation) and exits.
 class GuiRunner : public QObject
 {
     Q_OBJECT
@@ -31,7 +34,9 @@ public:
         QString cameraId;
         QStringList fires;
         int editorRow = -1;
-        QStringList pageActions; // "disable:1001", "delete:1002", "duplicate:1003"
+        // "disable:1001", "delete:1002", "duplicate:1003", "edit:1001:-action 1,+action SMS", "language:de",
+        // "keys:Down Space Delete Return"
+        QStringList pageActions;
         int timeoutMs = 10000;
     };
 
@@ -48,6 +53,8 @@ public:
     // Switches the page and the plug-in's texts to a shipped translation ("en" for none).
     Q_INVOKABLE void setLanguage(const QString& language);
     Q_INVOKABLE void reconnect();
+    // A sound of the plug-in's local store as a URL for the media player ("" when it is not there yet).
+    Q_INVOKABLE QString soundUrl(const QString& name) const;
 
 signals:
     void languageChanged();
@@ -55,12 +62,15 @@ signals:
 private:
     bool applyTranslator(const QString& language);
     void listArrived();
+    void pressKeys(const QStringList& keys);
     void takeScreenshot();
 
     AlarmHost* m_host;
     Settings m_settings;
     QQmlApplicationEngine* m_engine = nullptr;
     QTranslator* m_translator = nullptr;
+    PageTranslator* m_pageTranslator = nullptr;
+    RuleEntries* m_ruleEntries = nullptr;
     EnabledStateFilter* m_alarmList = nullptr;
     QString m_language = QStringLiteral("en");
     bool m_isScreenshotPending = false;

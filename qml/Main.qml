@@ -1,7 +1,11 @@
 // Example page of the alarm plug-in: the alarm list of the site with search, sorting, the enabled
-// switch per rule, multi-select, add/edit/duplicate, a camera's view-cell buttons and the alarms that
-// fire. Context properties from the host: alarmManager (the plug-in), alarmList (the plug-in's list with
-// an enabled/disabled switch on top), site, host, initialCamera.
+// switch per rule, multi-select, add/edit/duplicate, a camera's view-cell buttons, the alarms that fire
+// with their sounds, pausing all alarms and the server's settings. Every invokable and answer signal of
+// the plug-in has its place here. Context properties from the host: alarmManager (the plug-in), alarmList
+// (the plug-in's list with an enabled/disabled switch on top), site, host, initialCamera, ruleEntries.
+//
+// Keyboard: Tab walks the controls; Ctrl+F goes to the search field and Down from there into the list;
+// in the list, arrows move, Space selects, Enter edits, Delete deletes the selection after confirmation.
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
@@ -11,7 +15,7 @@ ApplicationWindow {
     width: 1440
     height: 860
     visible: true
-    title: tr("Alarm management") + " - " + site.name
+    title: qsTr("Alarm management") + " - " + site.name
 
     // Role numbers of the plug-in's alarm list; fixed by the plug-in's model.
     readonly property int idRole: 257
@@ -23,6 +27,10 @@ ApplicationWindow {
     readonly property int scheduleRole: 264
 
     property bool loading: true
+    property int totalCount: 0
+    property var soundNames: []
+    property bool isAudioMissingNoted: false
+    property int pauseMinutes: 0
     property int pendingRequests: 0
     property var selection: ({})
     property int selectionCount: 0
@@ -31,9 +39,6 @@ ApplicationWindow {
     property string statusText: ""
     property string viewCellCamera: initialCamera !== "" ? initialCamera
                                                          : (site.cameras.length > 0 ? site.cameras[0].id : "")
-
-    // The page's texts share the plug-in's translation context.
-    function tr(text) { return qsTranslate("QObject", text) }
 
     function triggerText(type, sources) {
         var parts = []
@@ -91,14 +96,14 @@ ApplicationWindow {
     }
     function duplicate(row) {
         var schedule = alarmList.value(row, "scheduleRole") || []
-        if (alarmManager.addAlarm(alarmList.value(row, "nameRole") + " " + tr("(copy)"),
+        if (alarmManager.addAlarm(alarmList.value(row, "nameRole") + " " + qsTr("(copy)"),
                                   alarmList.value(row, "descriptionRole"), alarmList.value(row, "triggerXmlRole"),
                                   alarmList.value(row, "actionXmlRole"), "", schedule[0] || "", schedule[2] || "",
                                   alarmList.value(row, "enabledRole")))
             pendingRequests++
     }
     // What a user does with the page's buttons, by name; the host's scripted runs use it.
-    function performAction(action, id) {
+    function performAction(action, id, argument) {
         var row = -1
         for (var r = 0; r < alarmList.count && row < 0; ++r) {
             if (alarmList.value(r, "idRole") === id)
@@ -110,6 +115,11 @@ ApplicationWindow {
             alarmListView.currentIndex = row
             duplicate(row)
             return true
+        }
+        if (action === "edit") {
+            alarmListView.currentIndex = row
+            editor.openForRow(row)
+            return editor.perform(argument)
         }
         selection = ({})
         setSelected(id, true)
@@ -124,51 +134,155 @@ ApplicationWindow {
         return false
     }
     function note(text) { statusText = new Date().toLocaleTimeString(Qt.locale(), "hh:mm:ss") + "  " + text }
+    // What the list shows, row by row, as JSON for scripted runs.
+    function shownRows() {
+        var rows = []
+        for (var row = 0; row < alarmList.count; ++row) {
+            rows.push({ "id": alarmList.value(row, "idRole"), "name": alarmList.value(row, "nameRole"),
+                        "trigger": triggerText(alarmList.value(row, "triggerTypeRole"), alarmList.value(row, "triggerSourceRole")),
+                        "actions": actionText(alarmList.value(row, "actionTypeRole"), alarmList.value(row, "actionTargetRole")),
+                        "unknownDevices": ruleEntries.unknownDevices(alarmList.value(row, "triggerXmlRole"),
+                                                                     alarmList.value(row, "actionXmlRole")) })
+        }
+        return JSON.stringify(rows)
+    }
+    function soundTheAlarm(names) {
+        if (muteSwitch.checked || names.length === 0)
+            return
+        soundLoader.active = true
+        var url = host.soundUrl(names[0])
+        if (!soundLoader.item.hasOutput) {
+            if (!isAudioMissingNoted)
+                note(qsTr("No audio device: alarm sounds are not played"))
+            isAudioMissingNoted = true
+        } else if (url === "") {
+            note(qsTr("The sound %1 is not in the local sound store").arg(names[0]))
+        } else {
+            soundLoader.item.play(url, names[0])
+        }
+    }
+    function removeFired(kind, nodeIds) {
+        for (var i = firedModel.count - 1; i >= 0; --i) {
+            var entry = firedModel.get(i)
+            if (entry.kind === kind && nodeIds.indexOf(entry.nodeId) >= 0)
+                firedModel.remove(i)
+        }
+    }
+    function firedNodes(kind) {
+        var nodes = []
+        for (var i = 0; i < firedModel.count; ++i) {
+            var entry = firedModel.get(i)
+            if (entry.kind === kind && entry.nodeId !== "" && nodes.indexOf(entry.nodeId) < 0)
+                nodes.push(entry.nodeId)
+        }
+        return nodes
+    }
+    function countTotal() { totalCount = alarmManager.getAlarmTranslatedModel().rowCount() }
+
+    Component.onCompleted: {
+        alarmManager.getAlarmSoundList()
+        alarmManager.getReserveTime()
+        // Keyboard work starts in the search field; Down goes on into the list.
+        searchField.forceActiveFocus()
+    }
+    Shortcut { sequence: StandardKey.Find; onActivated: searchField.forceActiveFocus() }
+    Shortcut { sequence: StandardKey.Refresh; onActivated: reload() }
 
     Connections {
         target: alarmManager
         function onGetAlarmResp(success) {
             window.loading = false
-            note(success ? tr("Alarm list loaded") : tr("The alarm list could not be loaded"))
+            window.countTotal()
+            note(success ? qsTr("Alarm list loaded") : qsTr("The alarm list could not be loaded"))
         }
         function onAddAlarmResp(success, id) {
             window.pendingRequests--
-            note(success ? tr("Alarm added") + " (" + id + ")" : tr("Adding the alarm failed"))
+            window.countTotal()
+            note(success ? qsTr("Alarm %1 added").arg(id) : qsTr("Adding the alarm failed"))
         }
         function onUpdateAlarmResp(success, id) {
             window.pendingRequests--
-            note(success ? tr("Alarm saved") : tr("Saving failed: the alarm was changed elsewhere or is invalid"))
+            note(success ? qsTr("Alarm saved") : qsTr("Saving failed: the alarm was changed elsewhere or is invalid"))
         }
         function onDeleteAlarmsResp(allReq, cntSuccess) {
             window.pendingRequests--
             window.selection = ({})
             window.selectionCount = 0
-            note(tr("Deleted") + " " + cntSuccess + " / " + allReq)
+            window.countTotal()
+            note(qsTr("%n of %1 alarm(s) deleted", "", cntSuccess).arg(allReq))
         }
         function onToggleAlarmResp(success) {
             window.pendingRequests--
-            note(success ? tr("Alarms switched") : tr("Switching failed"))
+            note(success && alarmManager.getToggleAlarmResult() ? qsTr("Alarms switched") : qsTr("Switching failed"))
+        }
+        function onToggleAllAlarmResp(success) {
+            window.pendingRequests--
+            if (!success || !alarmManager.getToggleAllAlarmResult())
+                note(qsTr("Pausing or resuming all alarms failed"))
+            else if (window.pauseMinutes > 0)
+                note(qsTr("All alarms paused for %n minute(s)", "", window.pauseMinutes))
+            else
+                note(qsTr("All alarms resumed"))
+        }
+        function onGetAlarmSoundListResp(alarmSoundList) { window.soundNames = alarmSoundList }
+        function onGetReserveTimeResp(success, reserveTime) {
+            if (success)
+                reserveBox.value = reserveTime
+            else
+                note(qsTr("The reserve time could not be read"))
+        }
+        function onUpdateReserveTimeResp(success) {
+            window.pendingRequests--
+            note(success ? qsTr("Reserve time saved") : qsTr("Saving the reserve time failed"))
+        }
+        function onSendHttpRequestResp(success, errorCode) {
+            note(success ? qsTr("Test request answered") : qsTr("Test request failed: %1").arg(errorCode))
+        }
+        function onHttpActionResponsed(errorCode) { note(qsTr("An alarm's HTTP request answered: %1").arg(errorCode)) }
+        function onAlarmNotify(message) { note(message) }
+        function onAlarmDeleted(id) { note(qsTr("Alarm %1 was deleted").arg(id)) }
+        function onUpdateAlarmScheduleResp(success, id) {
+            note(success ? qsTr("Schedule of alarm %1 saved").arg(id) : qsTr("Saving the schedule failed"))
+        }
+        function onUpdateAllAlarmScheduleResp(success, templateName) {
+            note(success ? qsTr("Schedule %1 saved").arg(templateName) : qsTr("Saving the schedule failed"))
+        }
+        function onCloseAlarmTabResp(nodeIdList) { window.removeFired("alarm", nodeIdList) }
+        function onCloseEMapTabResp(nodeIdList) { window.removeFired("map", nodeIdList) }
+        function onCloseAlarmNotificationResp() {
+            firedModel.clear()
+            if (soundLoader.item)
+                soundLoader.item.stop()
         }
         function onSendVirtualTriggerAlarmResp(success, alarmId) {
-            note(success ? tr("Virtual trigger sent") : tr("No active alarm holds this trigger"))
+            note(success ? qsTr("Virtual trigger sent") : qsTr("No active alarm holds this trigger"))
         }
         function onAlarmTriggered(name, type, nodeID, serverTime, eventType, eventIndex, eventValue, deviceName, alarmId, timecardId) {
-            firedModel.insert(0, { "kind": "alarm", "title": name,
+            firedModel.insert(0, { "kind": "alarm", "type": -1, "title": name, "nodeId": nodeID,
                                    "detail": deviceName + " - " + eventType + (eventValue !== "" ? ": " + eventValue : ""),
                                    "time": new Date(serverTime).toLocaleTimeString(Qt.locale(), "hh:mm:ss") })
         }
         function onClientNotification(type, data, timecardId) {
-            var kinds = [tr("Go to E-Map"), tr("Popup window"), tr("Sound the alarm")]
             var items = []
+            var sounds = []
+            var maps = []
             for (var i = 0; data && i < data.length; ++i) {
-                if (type === 0)
+                if (type === 0) {
                     items.push(mapName(data[i].mapId) + cameraNames(data[i].playCamList))
-                else if (type === 2)
+                    maps.push(data[i].mapId)
+                } else if (type === 2) {
                     items.push(data[i].name)
-                else
+                    sounds.push(data[i].name)
+                } else {
                     items.push(site.cameraName(data[i]) || data[i])
+                }
             }
-            firedModel.insert(0, { "kind": "notification", "title": kinds[type] || "", "detail": items.join(", "),
+            if (type === 2)
+                window.soundTheAlarm(sounds)
+            // An e-map notification opens a map tab, which "Close map tabs" closes by its map. Its title is
+            // made when shown, so that it follows the language.
+            firedModel.insert(0, { "kind": type === 0 ? "map" : "notification", "type": type, "title": "",
+                                   "nodeId": maps.length > 0 ? maps[0] : "", "detail": items.join(", "),
                                    "time": new Date().toLocaleTimeString(Qt.locale(), "hh:mm:ss") })
         }
     }
@@ -194,7 +308,7 @@ ApplicationWindow {
             anchors.rightMargin: 8
             spacing: 8
             Label {
-                text: tr("Alarm rules")
+                text: qsTr("Alarm rules")
                 font.pixelSize: 18
                 font.bold: true
             }
@@ -202,54 +316,58 @@ ApplicationWindow {
                 id: searchField
                 objectName: "searchField"
                 Layout.preferredWidth: 280
-                placeholderText: tr("Search name, trigger, action, schedule")
+                placeholderText: qsTr("Search name, trigger, action, schedule")
                 selectByMouse: true
                 onTextChanged: alarmManager.getAlarmFilterModel().applyFilter(text)
+                Keys.onDownPressed: alarmListView.forceActiveFocus()
+                Keys.onEscapePressed: text = ""
             }
             ComboBox {
                 id: stateFilter
                 objectName: "stateFilter"
                 Layout.preferredWidth: 150
-                model: [tr("All alarms"), tr("Enabled only"), tr("Disabled only")]
+                model: [qsTr("All alarms"), qsTr("Enabled only"), qsTr("Disabled only")]
                 onActivated: alarmList.state = currentIndex
             }
             Label {
-                text: alarmList.count + " " + tr("shown")
+                objectName: "countLabel"
+                text: qsTr("%1 of %n rule(s) shown", "", totalCount).arg(alarmList.count)
                 color: palette.placeholderText
             }
             Item { Layout.fillWidth: true }
-            ToolButton { text: tr("Add"); onClicked: editor.openForNew() }
+            ToolButton { text: qsTr("Add"); onClicked: editor.openForNew() }
             ToolButton {
-                text: tr("Edit")
+                text: qsTr("Edit")
                 enabled: currentRow() >= 0
                 onClicked: editor.openForRow(currentRow())
             }
             ToolButton {
-                text: tr("Duplicate")
+                text: qsTr("Duplicate")
                 enabled: currentRow() >= 0
                 onClicked: duplicate(currentRow())
             }
             ToolButton {
-                text: tr("Enable") + (selectionCount > 0 ? " (" + selectionCount + ")" : "")
+                text: qsTr("Enable") + (selectionCount > 0 ? " (" + selectionCount + ")" : "")
                 enabled: selectionCount > 0
                 onClicked: toggleSelected(true)
             }
             ToolButton {
-                text: tr("Disable") + (selectionCount > 0 ? " (" + selectionCount + ")" : "")
+                text: qsTr("Disable") + (selectionCount > 0 ? " (" + selectionCount + ")" : "")
                 enabled: selectionCount > 0
                 onClicked: toggleSelected(false)
             }
             ToolButton {
-                text: tr("Delete") + (selectionCount > 0 ? " (" + selectionCount + ")" : "")
+                text: qsTr("Delete") + (selectionCount > 0 ? " (" + selectionCount + ")" : "")
                 enabled: selectionCount > 0
                 onClicked: confirmDelete.open()
             }
-            ToolButton { text: tr("Reload"); onClicked: reload() }
+            ToolButton { text: qsTr("Reload"); onClicked: reload() }
             ComboBox {
                 id: languageBox
                 Layout.preferredWidth: 80
                 model: host.languages
                 currentIndex: Math.max(0, host.languages.indexOf(host.language))
+                Accessible.name: qsTr("Language")
                 onActivated: { window.loading = true; host.setLanguage(currentText) }
             }
         }
@@ -308,11 +426,11 @@ ApplicationWindow {
                         }
                         Repeater {
                             model: [
-                                { "title": tr("On"), "role": enabledRole, "share": 0 },
-                                { "title": tr("Name"), "role": nameRole, "share": 0.24 },
-                                { "title": tr("Trigger"), "role": triggerTypeRole, "share": 0.3 },
-                                { "title": tr("Actions"), "role": actionTypeRole, "share": 0.34 },
-                                { "title": tr("Schedule"), "role": scheduleRole, "share": 0.12 }
+                                { "title": qsTr("On"), "role": enabledRole, "share": 0 },
+                                { "title": qsTr("Name"), "role": nameRole, "share": 0.24 },
+                                { "title": qsTr("Trigger"), "role": triggerTypeRole, "share": 0.3 },
+                                { "title": qsTr("Actions"), "role": actionTypeRole, "share": 0.34 },
+                                { "title": qsTr("Schedule"), "role": scheduleRole, "share": 0.12 }
                             ]
                             delegate: ItemDelegate {
                                 required property var modelData
@@ -334,15 +452,35 @@ ApplicationWindow {
                     clip: true
                     model: alarmList
                     currentIndex: -1
+                    activeFocusOnTab: true
+                    keyNavigationEnabled: true
+                    highlightMoveDuration: 0
                     ScrollBar.vertical: ScrollBar { }
+                    Keys.onReturnPressed: editor.openForRow(currentRow())
+                    Keys.onEnterPressed: editor.openForRow(currentRow())
+                    Keys.onSpacePressed: {
+                        if (currentRow() >= 0) {
+                            var id = alarmList.value(currentRow(), "idRole")
+                            setSelected(id, !selection[id])
+                        }
+                    }
+                    Keys.onDeletePressed: {
+                        if (selectionCount === 0 && currentRow() >= 0)
+                            setSelected(alarmList.value(currentRow(), "idRole"), true)
+                        if (selectionCount > 0)
+                            confirmDelete.open()
+                    }
+                    onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
                     delegate: ItemDelegate {
                         id: rowDelegate
                         required property int index
                         required property var model
                         width: alarmListView.width
                         height: 62
+                        readonly property var unknownDevices: ruleEntries.unknownDevices(model.triggerXmlRole, model.actionXmlRole)
                         highlighted: ListView.isCurrentItem
-                        onClicked: alarmListView.currentIndex = index
+                        focusPolicy: Qt.NoFocus
+                        onClicked: { alarmListView.currentIndex = index; alarmListView.forceActiveFocus() }
                         onDoubleClicked: editor.openForRow(index)
                         background: Rectangle {
                             color: rowDelegate.highlighted ? palette.highlight
@@ -353,11 +491,13 @@ ApplicationWindow {
                             spacing: 6
                             CheckBox {
                                 Layout.preferredWidth: 32
+                                focusPolicy: Qt.NoFocus
                                 checked: !!selection[model.idRole]
                                 onClicked: setSelected(model.idRole, checked)
                             }
                             Switch {
                                 Layout.preferredWidth: 56
+                                focusPolicy: Qt.NoFocus
                                 checked: model.enabledRole
                                 onToggled: {
                                     if (alarmManager.toggleAlarm([{ "id": model.idRole, "enable": checked }]))
@@ -376,9 +516,21 @@ ApplicationWindow {
                                 }
                                 Label {
                                     Layout.fillWidth: true
+                                    visible: rowDelegate.unknownDevices.length === 0
                                     text: model.descriptionRole
                                     font.pixelSize: 11
                                     color: palette.placeholderText
+                                    elide: Text.ElideRight
+                                }
+                                // A rule naming a device the site no longer has cannot fire as meant.
+                                Label {
+                                    Layout.fillWidth: true
+                                    visible: rowDelegate.unknownDevices.length > 0
+                                    text: "\u26A0 " + qsTr("%n unknown device(s): %1", "", rowDelegate.unknownDevices.length)
+                                                      .arg(rowDelegate.unknownDevices.join(", "))
+                                    font.pixelSize: 11
+                                    font.bold: true
+                                    color: "#b00020"
                                     elide: Text.ElideRight
                                 }
                             }
@@ -410,7 +562,7 @@ ApplicationWindow {
                     Label {
                         anchors.centerIn: parent
                         visible: !loading && alarmList.count === 0
-                        text: tr("No alarm matches")
+                        text: qsTr("No alarm matches")
                         color: palette.placeholderText
                     }
                 }
@@ -425,7 +577,7 @@ ApplicationWindow {
                     anchors.centerIn: parent
                     spacing: 10
                     BusyIndicator { anchors.horizontalCenter: parent.horizontalCenter; running: loading }
-                    Label { text: tr("Loading alarm list...") }
+                    Label { text: qsTr("Loading alarm list...") }
                 }
             }
         }
@@ -437,7 +589,7 @@ ApplicationWindow {
             spacing: 8
 
             GroupBox {
-                title: tr("View cell")
+                title: qsTr("View cell")
                 Layout.fillWidth: true
                 ColumnLayout {
                     anchors.fill: parent
@@ -470,13 +622,95 @@ ApplicationWindow {
                         wrapMode: Text.Wrap
                         font.pixelSize: 11
                         color: palette.placeholderText
-                        text: tr("Virtual triggers of the enabled alarms on this camera")
+                        text: qsTr("Virtual triggers of the enabled alarms on this camera")
                     }
                 }
             }
 
             GroupBox {
-                title: tr("Triggered alarms and notifications")
+                title: qsTr("Server settings")
+                Layout.fillWidth: true
+                ColumnLayout {
+                    anchors.fill: parent
+                    Label { text: qsTr("Keep alarm records") }
+                    RowLayout {
+                        SpinBox {
+                            id: reserveBox
+                            objectName: "reserveBox"
+                            Layout.fillWidth: true
+                            from: 1
+                            to: 365
+                            editable: true
+                            // The page's language: a switch redraws the text, in the new words.
+                            locale: Qt.locale(host.language)
+                            textFromValue: function(value) { return qsTr("%n day(s)", "", value) }
+                            valueFromText: function(text) { return parseInt(text) || 1 }
+                            Accessible.name: qsTr("Keep alarm records")
+                        }
+                        Button {
+                            text: qsTr("Apply")
+                            onClicked: if (alarmManager.updateReserveTime(reserveBox.value)) pendingRequests++
+                        }
+                    }
+                    Label { text: qsTr("Pause all alarms") }
+                    RowLayout {
+                        SpinBox {
+                            id: pauseBox
+                            Layout.fillWidth: true
+                            from: 1
+                            to: 1440
+                            value: 15
+                            editable: true
+                            locale: Qt.locale(host.language)
+                            textFromValue: function(value) { return qsTr("%n minute(s)", "", value) }
+                            valueFromText: function(text) { return parseInt(text) || 1 }
+                            Accessible.name: qsTr("Pause all alarms")
+                        }
+                        Button {
+                            text: qsTr("Pause")
+                            onClicked: {
+                                window.pauseMinutes = pauseBox.value
+                                if (alarmManager.toggleAllAlarm(false, pauseBox.value))
+                                    pendingRequests++
+                            }
+                        }
+                        Button {
+                            text: qsTr("Resume")
+                            onClicked: {
+                                window.pauseMinutes = 0
+                                if (alarmManager.toggleAllAlarm(true, 0))
+                                    pendingRequests++
+                            }
+                        }
+                    }
+                }
+            }
+
+            GroupBox {
+                title: qsTr("Alarm sound")
+                Layout.fillWidth: true
+                GridLayout {
+                    anchors.fill: parent
+                    columns: 2
+                    Label {
+                        Layout.columnSpan: 2
+                        Layout.fillWidth: true
+                        elide: Text.ElideRight
+                        text: soundLoader.item && soundLoader.item.current !== ""
+                              ? qsTr("Playing %1").arg(soundLoader.item.current)
+                              : qsTr("%n sound(s) on the server", "", soundNames.length)
+                    }
+                    Switch { id: muteSwitch; objectName: "muteSwitch"; text: qsTr("Mute") }
+                    Button {
+                        text: qsTr("Stop")
+                        enabled: soundLoader.item !== null && soundLoader.item.current !== ""
+                        onClicked: soundLoader.item.stop()
+                    }
+                }
+            }
+
+            GroupBox {
+                title: qsTr("Triggered alarms and notifications")
                 Layout.fillWidth: true
                 Layout.fillHeight: true
                 ColumnLayout {
@@ -491,6 +725,8 @@ ApplicationWindow {
                         spacing: 4
                         delegate: Rectangle {
                             required property string kind
+                            required property string nodeId
+                            required property int type
                             required property string title
                             required property string detail
                             required property string time
@@ -502,15 +738,35 @@ ApplicationWindow {
                                 id: firedColumn
                                 anchors.fill: parent
                                 anchors.margins: 4
-                                Label { text: time + "  " + title; font.bold: true; width: parent.width; elide: Text.ElideRight }
+                                Label {
+                                    text: time + "  " + (type < 0 ? title : [qsTr("Go to E-Map"), qsTr("Popup window"),
+                                                                              qsTr("Sound the alarm")][type] || "")
+                                    font.bold: true
+                                    width: parent.width
+                                    elide: Text.ElideRight
+                                }
                                 Label { text: detail; font.pixelSize: 11; width: parent.width; wrapMode: Text.Wrap }
                             }
                         }
                     }
-                    Button {
-                        text: tr("Clear")
-                        enabled: firedModel.count > 0
-                        onClicked: { firedModel.clear(); alarmManager.closeAlarmNotification() }
+                    Flow {
+                        Layout.fillWidth: true
+                        spacing: 6
+                        Button {
+                            text: qsTr("Close alarm tabs")
+                            enabled: firedModel.count > 0 && firedNodes("alarm").length > 0
+                            onClicked: alarmManager.closeAlarmTab(firedNodes("alarm"))
+                        }
+                        Button {
+                            text: qsTr("Close map tabs")
+                            enabled: firedModel.count > 0 && firedNodes("map").length > 0
+                            onClicked: alarmManager.closeEMapTab(firedNodes("map"))
+                        }
+                        Button {
+                            text: qsTr("Clear")
+                            enabled: firedModel.count > 0
+                            onClicked: { firedModel.clear(); alarmManager.closeAlarmNotification() }
+                        }
                     }
                 }
             }
@@ -520,10 +776,17 @@ ApplicationWindow {
     Dialog {
         id: confirmDelete
         anchors.centerIn: parent
+        width: 420
         modal: true
-        title: tr("Delete alarms")
+        title: qsTr("Delete alarms")
         standardButtons: Dialog.Yes | Dialog.No
-        Label { text: tr("Delete the selected alarms?") + " (" + selectionCount + ")" }
+        onOpened: confirmText.forceActiveFocus()
+        Label {
+            id: confirmText
+            text: qsTr("Delete %n selected alarm(s)?", "", selectionCount)
+            Keys.onReturnPressed: confirmDelete.accept()
+            Keys.onEnterPressed: confirmDelete.accept()
+        }
         onAccepted: {
             if (alarmManager.deleteAlarms(selectedRows()))
                 pendingRequests++
@@ -534,6 +797,16 @@ ApplicationWindow {
         id: editor
         objectName: "ruleEditor"
         anchors.centerIn: parent
+        soundNames: window.soundNames
         onSubmitted: pendingRequests++
+        onClosed: alarmListView.forceActiveFocus()
+    }
+
+    // Qt Multimedia is loaded with the first alarm sound, not with the page.
+    Loader {
+        id: soundLoader
+        active: false
+        source: "SoundPlayer.qml"
+        onLoaded: item.muted = Qt.binding(function() { return muteSwitch.checked })
     }
 }

@@ -11,7 +11,8 @@ foreach(host_test tst_alarmhost tst_alarmhostpage tst_alarmhostserver)
     if(NOT TARGET ${host_test})
         continue()
     endif()
-    target_compile_definitions(${host_test} PRIVATE ALARM_SAMPLE_SITE_DIR="${PROJECT_SOURCE_DIR}/samples/site")
+    target_compile_definitions(${host_test} PRIVATE ALARM_SAMPLE_SITE_DIR="${PROJECT_SOURCE_DIR}/samples/site"
+        ALARM_TRANSLATIONS_DIR="${PROJECT_SOURCE_DIR}/translations")
     if(ALARM_BUILD_HOST AND NOT host_test STREQUAL tst_alarmhostserver)
         target_compile_definitions(${host_test} PRIVATE
             ALARM_HOST_EXECUTABLE="${CMAKE_BINARY_DIR}/bin/alarm-host"

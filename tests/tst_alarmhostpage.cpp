@@ -1,14 +1,18 @@
 #include <QDir>
 #include <QImage>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <QtTest>
 
-// The example QML page, rendered offscreen by alarm-host: it lists the site's rules, the search field
-// narrows the list, and the screenshot (kept in the build folder under artefacts/) shows real content.
+// The example QML page, rendered offscreen by alarm-host: it lists the site's rules in every language, the
+// search field narrows the list, the editor changes a rule entry by entry, and the screenshots (kept in the
+// build folder under artefacts/, one per language) show real content.
 class tst_AlarmHostPage : public QObject
 {
     Q_OBJECT
@@ -17,6 +21,8 @@ private slots:
     void pageShows_data();
     void pageShows();
     void pageButtonsChangeTheRules();
+    void editorChangesOnlyTheEntriesTouched();
+    void germanPageLeavesNoLabelInEnglish();
 
 private:
     QJsonObject screenshot(const QString& file, const QStringList& arguments, const QString& dataDir = QString());
@@ -80,9 +86,14 @@ void tst_AlarmHostPage::pageShows_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("listCount");
     QTest::addColumn<int>("firedCount");
-    QTest::newRow("whole list") << "alarm-page.png" << QStringList() << 64 << 0;
-    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4 << 0;
+    QTest::newRow("in English") << "alarm-page-en.png" << QStringList({"--language", "en"}) << 64 << 0;
     QTest::newRow("in German") << "alarm-page-de.png" << QStringList({"--language", "de"}) << 64 << 0;
+    QTest::newRow("in Traditional Chinese") << "alarm-page-zh_TW.png" << QStringList({"--language", "zh_TW"}) << 64 << 0;
+    QTest::newRow("search narrows it") << "alarm-page-search.png" << QStringList({"--search", "operator:"}) << 4 << 0;
+    QTest::newRow("editor open") << "alarm-page-editor.png" << QStringList({"--editor-row", "0"}) << 64 << 0;
+    // Without a mouse: from the search field down to the second rule, select it, delete it, confirm.
+    QTest::newRow("keyboard deletes") << "alarm-page-keys.png" << QStringList({"--page-action", "keys:Down Down Space Delete Return"})
+                                      << 63 << 0;
     // The lockdown rule fires with a sound and an e-map notification.
     QTest::newRow("fired alarm in the panel") << "alarm-page-fired.png"
                                               << QStringList({"--camera", "cam-03", "--search", "lockdown", "--fire",
@@ -92,11 +103,11 @@ void tst_AlarmHostPage::pageShows_data()
 
 void tst_AlarmHostPage::pageShows()
 {
+#ifdef ALARM_HOST_ARTEFACT_DIR
     QFETCH(QString, fileName);
     QFETCH(QStringList, arguments);
     QFETCH(int, listCount);
     QFETCH(int, firedCount);
-#ifdef ALARM_HOST_ARTEFACT_DIR
     const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(fileName);
     QFile::remove(file);
 
@@ -115,11 +126,6 @@ void tst_AlarmHostPage::pageShows()
             colours.insert(image.pixel(x, y));
     }
     QVERIFY2(colours.size() > 40, qPrintable(QString::number(colours.size())));
-#else
-    Q_UNUSED(fileName);
-    Q_UNUSED(arguments);
-    Q_UNUSED(listCount);
-    Q_UNUSED(firedCount);
 #endif
 }
 
@@ -147,6 +153,106 @@ void tst_AlarmHostPage::pageButtonsChangeTheRules()
     }
     rules.sort();
     QCOMPARE(rules, QStringList({"1001 Gate forced open off", "1065 Intercom call at main gate (copy) on"}));
+#endif
+}
+
+void tst_AlarmHostPage::editorChangesOnlyTheEntriesTouched()
+{
+#ifdef ALARM_HOST_ARTEFACT_DIR
+    // Given the sample site, where camera 02 has since been removed from the site
+    QTemporaryDir dataDir;
+    listOf(dataDir.path());
+    QFile siteFile(QDir(dataDir.path()).filePath(QStringLiteral("site.json")));
+    QVERIFY(siteFile.open(QIODevice::ReadWrite));
+    QJsonObject site = QJsonDocument::fromJson(siteFile.readAll()).object();
+    QJsonArray cameras = site.value(QLatin1String("cameras")).toArray();
+    cameras.removeAt(1);
+    site.insert(QLatin1String("cameras"), cameras);
+    QVERIFY(siteFile.resize(0) && siteFile.write(QJsonDocument(site).toJson()) > 0 && siteFile.flush());
+    QFile original(QStringLiteral(ALARM_SAMPLE_SITE_DIR "/rules/1016.xml"));
+    QVERIFY(original.open(QIODevice::ReadOnly));
+    const QString before = QString::fromUtf8(original.readAll());
+    const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(QStringLiteral("alarm-page-edited.png"));
+
+    // When the user opens rule 1016, removes its first action, adds a recording on camera 05 and saves
+    const QJsonObject report =
+        screenshot(file, {"--page-action", "edit:1016:-action 0,+action Recording cam-05"}, dataDir.path());
+
+    // Then the stored rule differs exactly there (and in its revision)
+    QFile stored(QDir(dataDir.path()).filePath(QStringLiteral("rules/1016.xml")));
+    QVERIFY(stored.open(QIODevice::ReadOnly));
+    const QString removed = before.section(QLatin1String("<ActionList>"), 1).section(QLatin1String("<Action><AddBookmark>"), 0, 0);
+    QString expected = before;
+    expected.replace(QLatin1String("<Revision>1</Revision>"), QLatin1String("<Revision>2</Revision>"))
+        .remove(removed)
+        .replace(QLatin1String("</ActionList>"),
+                 QLatin1String("<Action><Recording><Cam GrpID=\"1\">cam-05</Cam></Recording></Action></ActionList>"));
+    // The server writes the schedule's attributes in no fixed order.
+    QString after = QString::fromUtf8(stored.readAll());
+    after.replace(QRegularExpression(QStringLiteral("<Ele E=\"(\\d+)\" B=\"(\\d+)\"/>")), QStringLiteral("<Ele B=\"\\2\" E=\"\\1\"/>"));
+    QCOMPARE(after, expected);
+
+    // And the list shows the new texts, and marks every rule naming the removed camera with it
+    QStringList shown, marked;
+    for (const QJsonValue& value : report.value(QLatin1String("rows")).toArray()) {
+        const QJsonObject row = value.toObject();
+        const QStringList unknown = row.value(QLatin1String("unknownDevices")).toVariant().toStringList();
+        if (row.value(QLatin1String("id")).toString() == QLatin1String("1016"))
+            shown.append(row.value(QLatin1String("actions")).toString());
+        if (!unknown.isEmpty())
+            marked.append(row.value(QLatin1String("id")).toString() + QLatin1Char(' ') + unknown.join(QLatin1Char(',')));
+    }
+    QCOMPARE(shown, QStringList({"Add bookmark (Aisle A); Start to record videos (Yard north)"}));
+    QStringList naming;
+    const QRegularExpression namesCamera(QStringLiteral("[>,]cam-02[<,]"));
+    for (const QString& rule : QDir(QStringLiteral(ALARM_SAMPLE_SITE_DIR "/rules")).entryList({"*.xml"}, QDir::Files, QDir::Name)) {
+        QFile ruleFile(QStringLiteral(ALARM_SAMPLE_SITE_DIR "/rules/") + rule);
+        if (ruleFile.open(QIODevice::ReadOnly) && QString::fromUtf8(ruleFile.readAll()).contains(namesCamera))
+            naming.append(rule.chopped(4) + QLatin1String(" cam-02"));
+    }
+    QVERIFY(!naming.isEmpty());
+    marked.sort();
+    QCOMPARE(marked, naming);
+#endif
+}
+
+void tst_AlarmHostPage::germanPageLeavesNoLabelInEnglish()
+{
+#ifdef ALARM_HOST_ARTEFACT_DIR
+    // Given the page's texts whose German differs from the English, as patterns of what they show
+    // (a number for %n, any text for %1, either plural form)
+    QList<QRegularExpression> english;
+    QFile catalogue(QStringLiteral(ALARM_TRANSLATIONS_DIR "/alarmpage_de.ts"));
+    QVERIFY(catalogue.open(QIODevice::ReadOnly));
+    QXmlStreamReader reader(&catalogue);
+    QString source;
+    while (reader.readNextStartElement() || !reader.atEnd()) {
+        if (reader.isStartElement() && reader.name() == QLatin1String("source"))
+            source = reader.readElementText();
+        else if (reader.isStartElement() && reader.name() == QLatin1String("translation")
+                 && reader.readElementText(QXmlStreamReader::IncludeChildElements) != source)
+            english.append(QRegularExpression(QLatin1Char('^') + QRegularExpression::escape(source)
+                                                  .replace(QLatin1String("\\%n"), QLatin1String("\\d+"))
+                                                  .replace(QRegularExpression(QStringLiteral("\\\\%[1-9]")), ".+")
+                                                  .replace(QLatin1String("\\(s\\)"), QLatin1String("s?")) + QLatin1Char('$')));
+        else
+            reader.readNext();
+    }
+    QVERIFY(english.size() > 100);
+    const QString file = QDir(QStringLiteral(ALARM_HOST_ARTEFACT_DIR)).filePath(QStringLiteral("alarm-page-de-editor.png"));
+
+    // When the page comes up in English, the user switches to German and opens the editor
+    const QJsonObject report = screenshot(file, {"--language", "en", "--page-action", "language:de", "--editor-row", "0"});
+
+    // Then no label that shows is left in English: none without a translation, none not redrawn
+    QStringList untranslated = report.value(QLatin1String("untranslated")).toVariant().toStringList();
+    for (const QJsonValue& text : report.value(QLatin1String("visibleTexts")).toArray()) {
+        for (const QRegularExpression& pattern : english)
+            untranslated.append(pattern.match(text.toString()).hasMatch() ? text.toString() : QString());
+    }
+    untranslated.removeAll(QString());
+    untranslated.removeAll(QStringLiteral("Name")); // the same word in both languages
+    QCOMPARE(untranslated, QStringList());
 #endif
 }
 
