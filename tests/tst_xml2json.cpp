@@ -61,6 +61,7 @@ void tst_XML2Json::treeShape_data()
     row("repeated child is a list in document order", "<R><T>1</T><X/><T>2</T><T><C>3</C></T></R>",
         R"({"R":{"T":["1","2",{"C":"3"}],"X":""}})");
     row("whitespace between elements is dropped", "<R>\n  <A>1</A>\n  <B>   </B>\n</R>", R"({"R":{"A":"1","B":""}})");
+    row("blank CDATA beside children is dropped", "<R><![CDATA[ ]]><A>1</A></R>", R"({"R":{"A":"1"}})");
     row("text keeps its own blanks", "<R><A> a b </A></R>", R"({"R":{"A":" a b "}})");
     row("mixed content text goes under #text", "<R>head<A>1</A>tail</R>", R"({"R":{"#text":"headtail","A":"1"}})");
     row("attributes and children together", R"(<R v="1"><A>2</A></R>)", R"({"R":{"@v":"1","A":"2"}})");
