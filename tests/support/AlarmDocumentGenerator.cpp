@@ -11,20 +11,11 @@ const int cameraCount = 40;
 const int stationCount = 4;
 const int ioBoxCount = 3;
 
-QString camera(int n)
-{
-    return QStringLiteral("cam%1").arg(n % cameraCount + 1);
-}
+QString camera(int n) { return QStringLiteral("cam%1").arg(n % cameraCount + 1); }
 
-QString station(int n)
-{
-    return QStringLiteral("st%1").arg(n % stationCount + 1);
-}
+QString station(int n) { return QStringLiteral("st%1").arg(n % stationCount + 1); }
 
-QString ioBox(int n)
-{
-    return QStringLiteral("io%1").arg(n % ioBoxCount + 1);
-}
+QString ioBox(int n) { return QStringLiteral("io%1").arg(n % ioBoxCount + 1); }
 
 // Names travel percent-encoded, as the plug-in writes them.
 QString encoded(const QString& text)
@@ -34,12 +25,7 @@ QString encoded(const QString& text)
 
 QString cameraTrigger(int n, const QString& eventType, const QString& detail)
 {
-    return QStringLiteral("      <CamEventTrigger>\n"
-                          "        <CamName>%1</CamName>\n"
-                          "        <EventType>%2</EventType>\n"
-                          "        <Rule><Latency>%3</Latency></Rule>\n"
-                          "%4"
-                          "      </CamEventTrigger>\n")
+    return QStringLiteral("      <CamEventTrigger>\n        <CamName>%1</CamName>\n        <EventType>%2</EventType>\n        <Rule><Latency>%3</Latency></Rule>\n%4      </CamEventTrigger>\n")
         .arg(camera(n), eventType)
         .arg(n % 30)
         .arg(detail.isEmpty() ? QString() : QStringLiteral("        ") + detail + QLatin1Char('\n'));
@@ -50,11 +36,7 @@ QString statusTrigger(const QString& section, int n, const QString& eventType, c
                       const QString& name = QString())
 {
     const QString element = name.isEmpty() ? eventType : name;
-    return QStringLiteral("      <%1>\n"
-                          "        <EventType>%2</EventType>\n"
-                          "        <Rule><Latency>%3</Latency></Rule>\n"
-                          "        <%4>%5</%4>\n"
-                          "      </%1>\n")
+    return QStringLiteral("      <%1>\n        <EventType>%2</EventType>\n        <Rule><Latency>%3</Latency></Rule>\n        <%4>%5</%4>\n      </%1>\n")
         .arg(section, eventType)
         .arg(n % 10)
         .arg(element, content);
@@ -67,10 +49,7 @@ QString stationState(int n, const QString& state)
 
 QString externalTrigger(const QString& eventType, const QString& content)
 {
-    return QStringLiteral("      <ExtDeviceEventTrigger>\n"
-                          "        <EventType>%1</EventType>\n"
-                          "        <%1>%2</%1>\n"
-                          "      </ExtDeviceEventTrigger>\n")
+    return QStringLiteral("      <ExtDeviceEventTrigger>\n        <EventType>%1</EventType>\n        <%1>%2</%1>\n      </ExtDeviceEventTrigger>\n")
         .arg(eventType, content);
 }
 
@@ -97,12 +76,7 @@ QString trigger(int kind, int n)
     case 14: return statusTrigger(status, n, QStringLiteral("Gsensor"), QStringLiteral("<StationAddress>%1</StationAddress><Type>Shock</Type>").arg(station(n)));
     case 15: return statusTrigger(status, n, QStringLiteral("BruteForceAttack"), QStringLiteral("<StationAddress>%1</StationAddress>").arg(station(n)));
     case 16: return statusTrigger(system, n, QStringLiteral("SysLicense"), stationState(n, QStringLiteral("TrialExpired")));
-    case 17: return QStringLiteral("      <SysEventTrigger>\n"
-                                   "        <EventType>SysVcaAreaReport</EventType>\n"
-                                   "        <Rule><Latency>2</Latency></Rule>\n"
-                                   "        <StationAddress>%1</StationAddress>\n"
-                                   "        <VcaAreaReport><AreaId>%2</AreaId><RemainingPeople>10</RemainingPeople><Comparison>GreaterThan</Comparison></VcaAreaReport>\n"
-                                   "      </SysEventTrigger>\n").arg(station(n)).arg(n % 4);
+    case 17: return QStringLiteral("      <SysEventTrigger>\n        <EventType>SysVcaAreaReport</EventType>\n        <Rule><Latency>2</Latency></Rule>\n        <StationAddress>%1</StationAddress>\n        <VcaAreaReport><AreaId>%2</AreaId><RemainingPeople>10</RemainingPeople><Comparison>GreaterThan</Comparison></VcaAreaReport>\n      </SysEventTrigger>\n").arg(station(n)).arg(n % 4);
     case 18: return externalTrigger(QStringLiteral("ExtIODevice"), QStringLiteral("<DeviceName>%1</DeviceName><EventType>DI</EventType><Rule><Latency>1</Latency></Rule><Index>%2</Index><Value>High</Value>").arg(ioBox(n)).arg(n % 8 + 1));
     case 19: return externalTrigger(QStringLiteral("ExtTCPMessage"), QStringLiteral("<StationAddress>%1</StationAddress><Rule>DOOR_%2_OPEN<Latency>3</Latency></Rule><RuleType>Contains</RuleType><CaseInsensitive>true</CaseInsensitive>").arg(station(n)).arg(n));
     case 20: return externalTrigger(QStringLiteral("ExtDataMagnet"), QStringLiteral("<Rule><Latency>4</Latency></Rule><Category>POS</Category><ConditionList><Condition><FieldName>Amount</FieldName><FieldType>Number</FieldType><FieldValue>%1</FieldValue></Condition><Condition><FieldName>Cashier</FieldName><FieldType>Text</FieldType><FieldValue>Bob</FieldValue></Condition></ConditionList>").arg(100 + n % 900));
@@ -141,13 +115,7 @@ const int actionKindCount = 14;
 
 QString frame(const QString& name, const QString& days, int begin, int end)
 {
-    return QStringLiteral("      <Ele>\n"
-                          "        <Frame>\n"
-                          "          <Name>%1</Name>\n"
-                          "          <DayList>%2</DayList>\n"
-                          "          <Intervals><Ele B=\"%3\" E=\"%4\"/></Intervals>\n"
-                          "        </Frame>\n"
-                          "      </Ele>\n")
+    return QStringLiteral("      <Ele>\n        <Frame>\n          <Name>%1</Name>\n          <DayList>%2</DayList>\n          <Intervals><Ele B=\"%3\" E=\"%4\"/></Intervals>\n        </Frame>\n      </Ele>\n")
         .arg(name, days)
         .arg(begin)
         .arg(end);
@@ -186,16 +154,7 @@ QString AlarmDocumentGenerator::ruleXml(int ruleIndex)
     const QString mapping = schedule(n);
     const QString names[] = {QStringLiteral("Lobby door %1"), QStringLiteral("Café entrance %1"),
                              QStringLiteral("Parking 100% full %1"), QStringLiteral("倉庫 %1")};
-    return QStringLiteral("  <Tmcard>\n"
-                          "    <TmcardID>%1</TmcardID>\n"
-                          "    <Revision>%2</Revision>\n"
-                          "    <Name>%3</Name>\n"
-                          "    <Enabled>%4</Enabled>\n"
-                          "%5"
-                          "%6"
-                          "    <TriggerList>\n%7    </TriggerList>\n"
-                          "    <ActionList>\n%8    </ActionList>\n"
-                          "  </Tmcard>\n")
+    return QStringLiteral("  <Tmcard>\n    <TmcardID>%1</TmcardID>\n    <Revision>%2</Revision>\n    <Name>%3</Name>\n    <Enabled>%4</Enabled>\n%5%6    <TriggerList>\n%7    </TriggerList>\n    <ActionList>\n%8    </ActionList>\n  </Tmcard>\n")
         .arg(QString::number(n + 1), QString::number(qint64(n) * 3 + 1), encoded(names[n % 4].arg(n + 1)),
              n % 5 ? QStringLiteral("true") : QStringLiteral("false"),
              n % 3 ? QStringLiteral("    <Description>%1</Description>\n").arg(encoded(QStringLiteral("Checked by night shift, rule %1").arg(n + 1)))
