@@ -67,11 +67,8 @@ public:
     void setAudioFileManager(QSharedPointer<AudioFileManager> audioFileManager);
 
     bool SendRequestToServer(const QString& method, const QVariant& argument, void* context);
-    bool SendBlockRequestToServer(const QString& method, const QVariant& argument, void* context);
 
     // Lookups through peer plug-ins; each asks the framework for the peer anew and never caches it.
-    QString getSoundPath();
-    QVariant getValueFromDeviceTreeModel(const QString& deviceId, const QString& roleName);
     QString queryDisplayName(const QString& deviceId);
     QString queryDIDODisplayName(const QString& deviceId, const QString& ioName, int index);
     QString queryRoleName(int roleId);
@@ -143,7 +140,11 @@ signals:
     void closeAlarmTabResp(QStringList nodeIdList);
     void closeAlarmNotificationResp();
 
-public:
+private:
+    bool SendBlockRequestToServer(const QString& method, const QVariant& argument, void* context);
+    QString getSoundPath();
+    QVariant getValueFromDeviceTreeModel(const QString& deviceId, const QString& roleName);
+
     // Answer handlers, called by CommandProcessor. Success is exactly the return code "0".
     void HandleGetAllAlarm(const QVariant& result, const QString& returnCode);
     void HandleAddAlarm(const QVariant& result, const QString& returnCode, void* context);
@@ -167,10 +168,6 @@ public:
     QVariantMap getVirtualTriggerInfo(const QVariantMap& virtualTrigger) const;
     static QString EscapeURL(const QString& url);
 
-    // Batches still waiting for answers, keyed by batch id; for tests and diagnostics.
-    const QMap<qint64, BatchCommandContext>& pendingBatches() const { return m_batches; }
-
-private:
     static bool isSuccess(const QString& returnCode);
 
     // Argument map shared by "AddAlarm" and "UpdateAlarm"; name and description are percent-encoded.
