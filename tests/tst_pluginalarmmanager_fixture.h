@@ -23,10 +23,31 @@ struct PluginFixture
 
     PluginFixture() { plugin.InitialPluginBase(nullptr, &handle, &framework); }
 
+    // The host answers every request it accepted, so the plug-in frees each context it handed over; the
+    // close-tab requests are the exception, never answered by contract.
+    ~PluginFixture()
+    {
+        for (int index = 0; index < framework.requests.size(); ++index) {
+            const RecordedRequest request = framework.requests.at(index);
+            if (request.context && !answered.contains(index) && request.method != PluginAlarmManagerCommon::METHOD_CLOSE_EMAP_TAB
+                && request.method != PluginAlarmManagerCommon::METHOD_CLOSE_ALARM_TAB)
+                answer(request.method, QVariant(), request.context, QStringLiteral("1"));
+        }
+    }
+
     void answer(const QString& method, const QVariant& result, void* context, const QString& returnCode = "0")
     {
+        // The newest unanswered request with this context: a freed context's address may be handed out again.
+        for (int index = framework.requests.size() - 1; index >= 0; --index) {
+            if (framework.requests.at(index).context == context && !answered.contains(index)) {
+                answered.insert(index);
+                break;
+            }
+        }
         plugin.CommandProcessor(method, result, context, returnCode, QString(), false, QString());
     }
+
+    QSet<int> answered; // indices into framework.requests
 
     void push(const QString& eventName, const QVariant& data, const QString& target = QString())
     {
