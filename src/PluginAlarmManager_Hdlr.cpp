@@ -502,15 +502,20 @@ QVariantMap PluginAlarmManager::getVirtualTriggerInfo(const QVariantMap& virtual
 {
     // The argument is one "ExtDeviceEventTrigger" entry. Its "VirtualTrigger" child holds "Name" (typed
     // by a user, so percent-encoded), "Camera" and "IconType"; a "Camera" or "IconType" written beside
-    // that child, on the entry itself, is read when the child has none.
+    // that child, on the entry itself, is read when the child has none. The server's documents write the
+    // fields capitalised, the plug-in's own requests ("camera", "name", "iconType") do not; both are read.
     const QVariantMap body = virtualTrigger.value(virtualTriggerElement).toMap();
-    const auto element = [&](const QString& name) {
-        return body.contains(name) ? body.value(name) : virtualTrigger.value(name);
+    const auto field = [](const QVariantMap& map, const QString& name, const QString& spelling) {
+        return map.contains(name) ? map.value(name) : map.value(spelling);
+    };
+    const auto element = [&](const QString& name, const QString& spelling) {
+        return body.contains(name) || body.contains(spelling) ? field(body, name, spelling)
+                                                              : field(virtualTrigger, name, spelling);
     };
     return {
-        {ARG_CAMERA, element(cameraElement).toString()},
-        {ARG_VIRTUAL_TRIGGER_NAME, DecodePercentEncodedStr(body.value(nameElement).toString())},
-        {ARG_VIRTUAL_TRIGGER_ICON_TYPE, element(iconTypeElement).toInt()},
+        {ARG_CAMERA, element(cameraElement, ARG_CAMERA).toString()},
+        {ARG_VIRTUAL_TRIGGER_NAME, DecodePercentEncodedStr(field(body, nameElement, ARG_VIRTUAL_TRIGGER_NAME).toString())},
+        {ARG_VIRTUAL_TRIGGER_ICON_TYPE, element(iconTypeElement, ARG_VIRTUAL_TRIGGER_ICON_TYPE).toInt()},
     };
 }
 

@@ -391,6 +391,15 @@ void tst_PluginAlarmManager::scenario_data()
                s.f.push(EVENT_TYPE_ADD_ALARM, QVariantMap{{ARG_ALARM_TRG_LIST, gate}});
            })
         << QStringList{"- cam2 a3/Siren/3", "+ cam2 a4/Bell/4, a3/Siren/3"};
+    QTest::newRow("virtual triggers in the plug-in's own spelling show like the server's")
+        << Steps([](Scenario& s) {
+               const QString own = "<TriggerList><ExtDeviceEventTrigger><VirtualTrigger><name>Horn</name><camera>"
+                                   "cam2</camera></VirtualTrigger><iconType>5</iconType></ExtDeviceEventTrigger>"
+                                   "</TriggerList>";
+               s.f.push(EVENT_TYPE_UPDATE_ALARM, QVariantMap{{ARG_ALARM_ID, "a3"}, {ARG_ALARM_TRG_LIST, own}});
+           })
+        << QStringList{"- cam1 a3/Siren/3, a1/Open gate/2", "- cam2 a3/Siren/3", "+ cam1 a1/Open gate/2",
+                       "+ cam2 a3/Horn/5"};
     QTest::newRow("updated alarm replaces its triggers") << Steps([](Scenario& s) {
         s.f.push(EVENT_TYPE_UPDATE_ALARM, QVariantMap{{ARG_ALARM_ID, "a3"}, {ARG_ALARM_TRG_LIST, lights}});
         s.f.push(EVENT_TYPE_UPDATE_ALARM, QVariantMap{{ARG_ALARM_ID, "a1"}, {ARG_ALARM_TRG_LIST, "<Trig"}});
