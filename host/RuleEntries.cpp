@@ -269,19 +269,17 @@ bool RuleEntries::hasTarget(const QString& entryXml) const
 {
     const QString kind = kindOf(entryXml);
     const QVariantMap fields = fieldsOf(entryXml);
-    const auto filled = [&fields](const char* tag) { return !fields.value(QLatin1String(tag)).toString().trimmed().isEmpty(); };
-    if (kind == QLatin1String("SendMail"))
-        return filled("To");
-    if (kind == QLatin1String("SMS"))
-        return filled("PhoneNum");
-    if (kind == QLatin1String("HTTP"))
-        return filled("URL");
-    if (kind == QLatin1String("FTP"))
-        return filled("Server");
-    if (kind == QLatin1String("LaunchProgram"))
-        return filled("Path");
-    if (kind == QLatin1String("PlayIPAudio"))
-        return filled("IPAudioInfo");
+    // The field that names an action's target, for the kinds whose target is not a device.
+    static const QHash<QString, QString> targetFields = {
+        {QStringLiteral("SendMail"), QStringLiteral("To")},
+        {QStringLiteral("SMS"), QStringLiteral("PhoneNum")},
+        {QStringLiteral("HTTP"), QStringLiteral("URL")},
+        {QStringLiteral("FTP"), QStringLiteral("Server")},
+        {QStringLiteral("LaunchProgram"), QStringLiteral("Path")},
+        {QStringLiteral("PlayIPAudio"), QStringLiteral("IPAudioInfo")},
+    };
+    if (const auto field = targetFields.constFind(kind); field != targetFields.cend())
+        return !fields.value(*field).toString().trimmed().isEmpty();
     if (kind == QLatin1String("MobileNotification"))
         return entryXml.contains(QLatin1String("<PushAll>true</PushAll>")) || entryXml.contains(QLatin1String("<RoleId>"));
     // A live view may show just the camera that triggered.
