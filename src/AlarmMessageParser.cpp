@@ -7,18 +7,21 @@
 #include "PluginAlarmManager_Log.h"
 #include "VariantTree.h"
 #include "XML2Json.h"
+#include "XmlDocument.h"
 #include "stdafx.h"
 
-#include <QDomDocument>
-#include <QMultiHash>
+#include <QHash>
 #include <QStandardItem>
+#include <QIODevice>
 #include <QTextStream>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <cstring>
 #include <limits>
+#include <string>
+#include <string_view>
 
 using namespace AlarmMessageParserCommon;
 using namespace VariantTree;
@@ -61,350 +64,235 @@ bool isOneOf(const QString& value, std::initializer_list<QLatin1String> candidat
 
 // ---- Rule XML texts without a DOM ------------------------------------------------------------------
 
-// Escaping exactly as QDomNode::save writes text and attribute values.
-void appendEncoded(QString& out, QStringView text, bool isAttribute)
+// Writes a rule's lists from the parsed document exactly as QDomNode::save(stream, 4) writes the DOM that
+// Qt's reader would build from the same text. The DOM drops blank text and keeps everything else, so
+// the nodes that count here are the elements, comments, processing instructions, CDATA sections and
+// text that is not blank. A node is indented and followed by a line break unless a text sibling stands
+// next to it. The text is written as UTF-8 and converted once.
+class DomTextWriter
 {
-    qsizetype runStart = 0;
-    auto flush = [&](qsizetype end) {
-        out.append(text.mid(runStart, end - runStart));
-        runStart = end + 1;
-    };
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        switch (text[i].unicode()) {
-        case u'<':
-            flush(i);
-            out.append(QLatin1String("&lt;"));
-            break;
-        case u'&':
-            flush(i);
-            out.append(QLatin1String("&amp;"));
-            break;
-        case u'"':
-            if (isAttribute) {
-                flush(i);
-                out.append(QLatin1String("&quot;"));
-            }
-            break;
-        case u'>':
-            if (i >= 2 && text[i - 1] == u']' && text[i - 2] == u']') {
-                flush(i);
-                out.append(QLatin1String("&gt;"));
-            }
-            break;
-        case u'\r':
-            flush(i);
-            out.append(QLatin1String("&#xd;"));
-            break;
-        case u'\n':
-            if (isAttribute) {
-                flush(i);
-                out.append(QLatin1String("&#xa;"));
-            }
-            break;
-        case u'\t':
-            if (isAttribute) {
-                flush(i);
-                out.append(QLatin1String("&#x9;"));
-            }
-            break;
+public:
+    explicit DomTextWriter(size_t budget)
+        : m_budget(budget)
+    {
+    }
+
+    // False once the texts together outgrow the budget: deep nesting indents every line by its depth, so
+    // a small hostile document could otherwise ask for gigabytes.
+    bool isWithinBudget() const { return m_written <= m_budget; }
+
+    QString textOf(const pugi::xml_node& list)
+    {
+        if (!list || !isWithinBudget())
+            return {};
+        m_out.clear();
+        save(list, 1, keptSibling(list, false), keptSibling(list, true));
+        m_written += m_out.size();
+        return QString::fromUtf8(m_out.data(), qsizetype(m_out.size()));
+    }
+
+private:
+    static bool isKept(const pugi::xml_node& node)
+    {
+        switch (node.type()) {
+        case pugi::node_element:
+        case pugi::node_comment:
+        case pugi::node_pi:
+        case pugi::node_cdata:
+            return true;
+        case pugi::node_pcdata:
+            return !isBlank(node.value());
+        default:
+            return false;
+        }
+    }
+
+    // Blank as QString::trimmed sees it; non-ASCII spaces are rare enough to be decoded.
+    static bool isBlank(const char* text)
+    {
+        bool hasOtherThanAscii = false;
+        for (const char* c = text; *c; ++c) {
+            if (static_cast<unsigned char>(*c) >= 0x80)
+                hasOtherThanAscii = true;
+            else if (!(*c == ' ' || (*c >= '\t' && *c <= '\r')))
+                return false;
+        }
+        return !hasOtherThanAscii || QString::fromUtf8(text).trimmed().isEmpty();
+    }
+
+    static bool isText(const pugi::xml_node& node)
+    {
+        return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+    }
+
+    static pugi::xml_node keptSibling(pugi::xml_node node, bool isNext)
+    {
+        do
+            node = isNext ? node.next_sibling() : node.previous_sibling();
+        while (node && !isKept(node));
+        return node;
+    }
+
+    void indent(int depth) { m_out.append(size_t(4 * depth), ' '); }
+
+    void save(const pugi::xml_node& node, int depth, const pugi::xml_node& previous, const pugi::xml_node& next)
+    {
+        const bool followsText = previous && isText(previous);
+        const bool precedesText = next && isText(next);
+        switch (node.type()) {
+        case pugi::node_pcdata:
+            appendEncoded(node.value(), false);
+            return;
+        case pugi::node_cdata:
+            m_out.append("<![CDATA[").append(node.value()).append("]]>");
+            return;
+        case pugi::node_comment: {
+            if (!followsText)
+                indent(depth);
+            const std::string_view value(node.value());
+            m_out.append("<!--").append(value);
+            if (!value.empty() && value.back() == '-')
+                m_out.push_back(' ');
+            m_out.append("-->");
+            if (!precedesText)
+                m_out.push_back('\n');
+            return;
+        }
+        case pugi::node_pi:
+            m_out.append("<?").append(node.name()).append(" ").append(node.value()).append("?>\n");
+            return;
         default:
             break;
         }
-    }
-    out.append(text.mid(runStart));
-}
 
-// Qt's XML readers check each attribute of a start tag against every earlier one, so a tag with many
-// thousands of attributes stalls the GUI thread for seconds. No server writes more than a few per element;
-// a document with a tag over this many gets no rule texts. The document is well-formed (the tree was read),
-// so outside comments, CDATA and processing instructions a "<" opens a tag and a quote in a tag opens a value.
-constexpr qsizetype maxAttributesPerElement = 64;
-
-bool hasAttributeFlood(const QString& xml)
-{
-    static const QList<QPair<QLatin1String, QLatin1String>> skipped{
-        {QLatin1String("<!--"), QLatin1String("-->")},
-        {QLatin1String("<![CDATA["), QLatin1String("]]>")},
-        {QLatin1String("<?"), QLatin1String("?>")},
-    };
-    const qsizetype size = xml.size();
-    for (qsizetype i = xml.indexOf(QLatin1Char('<')); i >= 0 && i < size; i = xml.indexOf(QLatin1Char('<'), i)) {
-        const auto construct = std::find_if(skipped.cbegin(), skipped.cend(), [&](const auto& bounds) {
-            return QStringView(xml).mid(i).startsWith(bounds.first);
-        });
-        if (construct != skipped.cend()) {
-            const qsizetype end = xml.indexOf(construct->second, i + construct->first.size());
-            if (end < 0)
-                return false;
-            i = end + construct->second.size();
-            continue;
-        }
-        qsizetype attributeCount = 0;
-        for (++i; i < size && xml.at(i) != QLatin1Char('>'); ++i) {
-            const QChar c = xml.at(i);
-            if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
-                const qsizetype closing = xml.indexOf(c, i + 1);
-                if (closing < 0)
-                    return false;
-                i = closing;
-            } else if (c == QLatin1Char('=') && ++attributeCount > maxAttributesPerElement) {
-                return true;
+        if (!followsText)
+            indent(depth);
+        m_out.append("<").append(node.name());
+        appendAttributes(node);
+        pugi::xml_node child = node.first_child();
+        while (child && !isKept(child))
+            child = child.next_sibling();
+        if (!child) {
+            m_out.append("/>");
+        } else {
+            m_out.push_back('>');
+            if (!isText(child))
+                m_out.push_back('\n');
+            pugi::xml_node before;
+            pugi::xml_node last;
+            while (child) {
+                const pugi::xml_node after = keptSibling(child, true);
+                save(child, depth + 1, before, after);
+                before = last = child;
+                child = after;
             }
+            if (!isText(last))
+                indent(depth);
+            m_out.append("</").append(node.name()).append(">");
         }
-    }
-    return false;
-}
-
-// Replays the token stream the DOM parser is built from and writes, for every "Tmcard" element, its first
-// "TriggerList" and "ActionList" child as QDomNode::save(stream, 4) would: a node is indented and followed
-// by a line break unless a text sibling stands next to it, so the writer keeps per open element whether
-// its last kept child was text and decides each pending line break when the next sibling shows up.
-class RuleXmlWriter
-{
-public:
-    using Texts = AlarmMessageParser::RuleXmlTexts;
-
-    // False when the text holds something this writer does not reproduce (entity references, processing
-    // instructions inside a rule's lists); the caller then asks the DOM.
-    bool run(const QString& xml)
-    {
-        QXmlStreamReader reader(xml);
-        reader.setNamespaceProcessing(false);
-        while (!reader.atEnd()) {
-            reader.readNext();
-            if (reader.hasError())
-                break;
-            switch (reader.tokenType()) {
-            case QXmlStreamReader::StartElement:
-                if (m_levels.size() >= XML2Json::maxDepth) {
-                    // Deeper than any rule can be read; the texts would grow with the square of the depth.
-                    m_texts.clear();
-                    return true;
-                }
-                startElement(reader);
-                break;
-            case QXmlStreamReader::EndElement:
-                endElement();
-                break;
-            case QXmlStreamReader::Characters:
-                // The DOM keeps CDATA sections, and text that is not blank.
-                if (!reader.isWhitespace() && (reader.isCDATA() || !reader.text().trimmed().isEmpty()))
-                    text(reader.text(), reader.isCDATA());
-                break;
-            case QXmlStreamReader::Comment:
-                comment(reader.text());
-                break;
-            case QXmlStreamReader::ProcessingInstruction:
-                if (!m_open.isEmpty())
-                    return false;
-                beginChild(false);
-                break;
-            case QXmlStreamReader::EntityReference:
-                return false;
-            default:
-                break;
-            }
-        }
-        // A text that breaks off leaves the DOM with the elements read so far, closed where they stand.
-        while (!m_levels.isEmpty())
-            endElement();
-        return true;
-    }
-
-    QList<Texts> takeTexts() { return std::move(m_texts); }
-
-private:
-    // One list being written. Its text grows in a reused buffer and is copied out at its exact size once
-    // the line break after it is decided.
-    struct Recorder
-    {
-        qsizetype rule;
-        bool isActionList;
-        qsizetype rootLevel;
-        QString text;
-    };
-
-    struct Level
-    {
-        QString name; // kept only inside a recorded list, where the end tag is written
-        bool isStartTagOpen = true;
-        bool hasChild = false;
-        bool isLastChildText = false;
-        bool hasPendingLineBreak = false;
-        qsizetype rule = -1; // index into m_texts for a "Tmcard" element
-        bool hasTriggerList = false;
-        bool hasActionList = false;
-        QList<Recorder> awaitingLineBreak; // recorded lists that ended here, before their trailing break
-    };
-
-    void write(QStringView piece)
-    {
-        for (Recorder& recorder : m_open)
-            recorder.text.append(piece);
-    }
-
-    static void appendIndent(QString& out, qsizetype depth)
-    {
-        static const QString spaces(4 * (XML2Json::maxDepth + 1), QLatin1Char(' '));
-        out.append(QStringView(spaces).left(4 * depth));
-    }
-
-    // Indentation of a node whose parent is the innermost open element.
-    void writeChildIndent()
-    {
-        for (Recorder& recorder : m_open)
-            appendIndent(recorder.text, m_levels.size() - recorder.rootLevel + 1);
-    }
-
-    void finish(QList<Recorder>& recorders, bool withLineBreak)
-    {
-        for (Recorder& recorder : recorders) {
-            if (withLineBreak)
-                recorder.text.append(QLatin1Char('\n'));
-            Texts& texts = m_texts[recorder.rule];
-            (recorder.isActionList ? texts.actionXml : texts.triggerXml) = QString(recorder.text.constData(), recorder.text.size());
-            recorder.text.truncate(0);
-            m_buffers.append(std::move(recorder.text));
-        }
-        recorders.clear();
-    }
-
-    // Everything a new child of the innermost element decides about what stands before it.
-    void beginChild(bool isText)
-    {
-        if (m_levels.isEmpty())
-            return;
-        Level& parent = m_levels.last();
-        if (parent.isStartTagOpen) {
-            write(isText ? u">" : u">\n");
-            parent.isStartTagOpen = false;
-        } else if (parent.hasPendingLineBreak && !isText) {
-            write(u"\n");
-        }
-        finish(parent.awaitingLineBreak, !isText);
-        if (!isText && !(parent.hasChild && parent.isLastChildText))
-            writeChildIndent();
-        parent.hasChild = true;
-        parent.isLastChildText = isText;
-        parent.hasPendingLineBreak = !isText;
-    }
-
-    void startElement(const QXmlStreamReader& reader)
-    {
-        const QStringView name = reader.qualifiedName();
-        if (!m_levels.isEmpty() && m_levels.last().rule >= 0) {
-            Level& parent = m_levels.last();
-            const bool isTriggerList = !parent.hasTriggerList && name == u"TriggerList";
-            const bool isActionList = !parent.hasActionList && name == u"ActionList";
-            if (isTriggerList || isActionList) {
-                parent.hasTriggerList = parent.hasTriggerList || isTriggerList;
-                parent.hasActionList = parent.hasActionList || isActionList;
-                const bool followsText = parent.hasChild && parent.isLastChildText;
-                beginChild(false);
-                // The list's own text starts here, after what beginChild wrote for the lists around it.
-                m_open.append(Recorder{parent.rule, isActionList, m_levels.size(), m_buffers.isEmpty() ? QString() : m_buffers.takeLast()});
-                if (!followsText)
-                    appendIndent(m_open.last().text, 1);
-                pushElement(reader);
-                return;
-            }
-        }
-        beginChild(false);
-        pushElement(reader);
-    }
-
-    void pushElement(const QXmlStreamReader& reader)
-    {
-        const QStringView name = reader.qualifiedName();
-        Level level;
-        if (!m_open.isEmpty()) {
-            level.name = name.toString();
-            write(u"<");
-            write(name);
-            writeAttributes(reader.attributes());
-        }
-        if (name == u"Tmcard") {
-            level.rule = m_texts.size();
-            m_texts.append(Texts{});
-        }
-        m_levels.append(std::move(level));
+        if (!precedesText)
+            m_out.push_back('\n');
     }
 
     // The DOM keeps attributes in a hash and writes them in its iteration order; a hash with the same
     // keys inserted in the same order iterates alike.
-    void writeAttributes(const QXmlStreamAttributes& attributes)
+    void appendAttributes(const pugi::xml_node& node)
     {
-        if (attributes.size() == 1) {
-            writeAttribute(attributes.first());
+        const pugi::xml_attribute first = node.first_attribute();
+        if (!first)
+            return;
+        if (!first.next_attribute()) {
+            appendAttribute(first);
             return;
         }
-        QMultiHash<QString, qsizetype> order;
-        for (qsizetype i = 0; i < attributes.size(); ++i)
-            order.insert(attributes.at(i).qualifiedName().toString(), i);
+        QHash<QString, pugi::xml_attribute> order;
+        for (pugi::xml_attribute attribute = first; attribute; attribute = attribute.next_attribute())
+            order.insert(QString::fromUtf8(attribute.name()), attribute);
         for (auto it = order.constBegin(); it != order.constEnd(); ++it)
-            writeAttribute(attributes.at(it.value()));
+            appendAttribute(it.value());
     }
 
-    void writeAttribute(const QXmlStreamAttribute& attribute)
+    void appendAttribute(const pugi::xml_attribute& attribute)
     {
-        for (Recorder& recorder : m_open) {
-            recorder.text.append(QLatin1Char(' '));
-            recorder.text.append(attribute.qualifiedName());
-            recorder.text.append(QLatin1String("=\""));
-            appendEncoded(recorder.text, attribute.value(), true);
-            recorder.text.append(QLatin1Char('"'));
-        }
+        m_out.append(" ").append(attribute.name()).append("=\"");
+        appendEncoded(attribute.value(), true);
+        m_out.push_back('"');
     }
 
-    void endElement()
+    // Escaping exactly as QDomNode::save writes text and attribute values.
+    void appendEncoded(const char* text, bool isAttribute)
     {
-        Level level = m_levels.takeLast();
-        if (level.isStartTagOpen) {
-            write(u"/>");
-        } else {
-            if (level.hasPendingLineBreak)
-                write(u"\n");
-            finish(level.awaitingLineBreak, true);
-            if (!level.isLastChildText) {
-                for (Recorder& recorder : m_open)
-                    appendIndent(recorder.text, m_levels.size() - recorder.rootLevel + 1);
+        const char* runStart = text;
+        const auto replace = [&](const char* at, const char* replacement) {
+            m_out.append(runStart, size_t(at - runStart)).append(replacement);
+            runStart = at + 1;
+        };
+        for (const char* c = text; *c; ++c) {
+            switch (*c) {
+            case '<':
+                replace(c, "&lt;");
+                break;
+            case '&':
+                replace(c, "&amp;");
+                break;
+            case '"':
+                if (isAttribute)
+                    replace(c, "&quot;");
+                break;
+            case '>':
+                if (c - text >= 2 && c[-1] == ']' && c[-2] == ']')
+                    replace(c, "&gt;");
+                break;
+            case '\r':
+                replace(c, "&#xd;");
+                break;
+            case '\n':
+                if (isAttribute)
+                    replace(c, "&#xa;");
+                break;
+            case '\t':
+                if (isAttribute)
+                    replace(c, "&#x9;");
+                break;
+            default:
+                break;
             }
-            write(u"</");
-            write(level.name);
-            write(u">");
         }
-        if (!m_open.isEmpty() && m_open.last().rootLevel == m_levels.size())
-            m_levels.last().awaitingLineBreak.append(m_open.takeLast());
+        m_out.append(runStart);
     }
 
-    void text(QStringView value, bool isCData)
-    {
-        beginChild(true);
-        if (isCData) {
-            write(u"<![CDATA[");
-            write(value);
-            write(u"]]>");
-            return;
-        }
-        for (Recorder& recorder : m_open)
-            appendEncoded(recorder.text, value, false);
-    }
-
-    void comment(QStringView value)
-    {
-        beginChild(false);
-        write(u"<!--");
-        write(value);
-        if (value.endsWith(u'-'))
-            write(u" ");
-        write(u"-->");
-    }
-
-    QList<Level> m_levels;
-    QList<Recorder> m_open;
-    QList<Texts> m_texts;
-    QList<QString> m_buffers;
+    std::string m_out;
+    size_t m_written = 0;
+    size_t m_budget;
 };
+
+// The texts of the first count "Tmcard" elements in document order (the order of
+// QDomDocument::elementsByTagName): each one's first "TriggerList" and "ActionList" child.
+QList<AlarmMessageParser::RuleXmlTexts> ruleXmlTexts(const XmlDocument& document, qsizetype count, size_t documentBytes)
+{
+    QList<AlarmMessageParser::RuleXmlTexts> texts;
+    // Far above what any real list writes (about twice the document), far below what would hurt.
+    DomTextWriter writer(16 * documentBytes + (size_t(1) << 20));
+    const auto elementFrom = [](pugi::xml_node node) {
+        while (node && node.type() != pugi::node_element)
+            node = node.next_sibling();
+        return node;
+    };
+    const pugi::xml_node top = document.root();
+    for (pugi::xml_node node = top; node && texts.size() < count;) {
+        if (std::strcmp(node.name(), "Tmcard") == 0)
+            texts.append({writer.textOf(node.child("TriggerList")), writer.textOf(node.child("ActionList"))});
+        pugi::xml_node next = elementFrom(node.first_child());
+        for (pugi::xml_node up = node; !next && up != top; up = up.parent())
+            next = elementFrom(up.next_sibling());
+        node = next;
+    }
+    if (!writer.isWithinBudget()) {
+        ALARM_TRACE_ERROR("%s, the rule texts outgrow the document by far; they are left empty", "RuleXmlTextsOf");
+        return {};
+    }
+    return texts;
+}
 
 } // namespace
 
@@ -423,7 +311,8 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemList(const QVariant& al
     const QVariantList rules = listAt(message.value(ARG_ALARM_LIST), {QStringLiteral("GetEvtTmcardRes"), QStringLiteral("Tmcard")});
     if (rules.isEmpty())
         return items;
-    const QList<RuleXmlTexts> xmlTexts = RuleXmlTextsOf(message.value(ARG_ALARM_XML_MSG).toString());
+    const QString text = message.value(ARG_ALARM_XML_MSG).toString();
+    const QList<RuleXmlTexts> xmlTexts = ruleXmlTexts(XmlDocument(text), rules.size(), size_t(text.size()));
 
     items.reserve(rules.size());
     for (qsizetype i = 0; i < rules.size(); ++i) {
@@ -481,30 +370,8 @@ QString AlarmMessageParser::GetDomNodeXmlString(const QDomNode& node)
 
 QList<AlarmMessageParser::RuleXmlTexts> AlarmMessageParser::RuleXmlTextsOf(const QString& alarmListXml)
 {
-    if (hasAttributeFlood(alarmListXml)) {
-        ALARM_TRACE_ERROR("%s, an element has more than %lld attributes", "RuleXmlTextsOf",
-                          static_cast<long long>(maxAttributesPerElement));
-        return {};
-    }
-    RuleXmlWriter writer;
-    if (writer.run(alarmListXml))
-        return writer.takeTexts();
-    return RuleXmlTextsThroughDom(alarmListXml);
-}
-
-QList<AlarmMessageParser::RuleXmlTexts> AlarmMessageParser::RuleXmlTextsThroughDom(const QString& alarmListXml)
-{
-    QDomDocument document;
-    document.setContent(alarmListXml);
-    const QDomNodeList rules = document.elementsByTagName(QStringLiteral("Tmcard"));
-    QList<RuleXmlTexts> texts;
-    texts.reserve(rules.size());
-    for (int i = 0; i < rules.size(); ++i) {
-        const QDomNode rule = rules.at(i);
-        texts.append({GetDomNodeXmlString(rule.firstChildElement(QStringLiteral("TriggerList"))),
-                      GetDomNodeXmlString(rule.firstChildElement(QStringLiteral("ActionList")))});
-    }
-    return texts;
+    const XmlDocument document(alarmListXml);
+    return ruleXmlTexts(document, std::numeric_limits<qsizetype>::max(), size_t(alarmListXml.size()));
 }
 
 // ---- Schedule ----------------------------------------------------------------------------------------

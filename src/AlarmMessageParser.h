@@ -56,11 +56,9 @@ public:
         }
     };
     // One entry per "Tmcard" element of the text, in the order of QDomDocument::elementsByTagName, with
-    // exactly the texts the DOM would give (also for a text that breaks off: the DOM keeps what it read).
-    // A single streaming pass replaces the DOM of the whole list, which cost more than everything else.
+    // exactly the texts the DOM would give. A text that is not well-formed XML gives none: it lists no
+    // rules either, as XML2Json refuses it.
     static QList<RuleXmlTexts> RuleXmlTextsOf(const QString& alarmListXml);
-    // The same through QDomDocument; the reference the streaming pass is held to, and its fallback.
-    static QList<RuleXmlTexts> RuleXmlTextsThroughDom(const QString& alarmListXml);
 
     // Schedule codec.
     QString ComposeJsonTimeframeMsg(const QList<QVariant>& frames);

@@ -4,6 +4,8 @@
 #include <QVariant>
 #include <QVariantList>
 
+#include "XmlDocument.h"
+
 // Turns an XML document into the variant tree the alarm codecs read by key:
 //   - the result is a map with one entry, keyed by the root element's tag;
 //   - an element with attributes or child elements becomes a map: children under their tag, attributes
@@ -13,11 +15,11 @@
 //   - whitespace-only text between elements is dropped; other text is kept exactly as written.
 // Anything that is not one well-formed element tree gives an invalid QVariant, so every reader sees
 // empty values: malformed text, a DOCTYPE or entity declaration, more than one root, nesting deeper
-// than maxDepth, or a NUL character.
+// than maxDepth, or a character XML does not allow (XmlDocument says what is refused).
 class XML2Json
 {
 public:
-    static constexpr int maxDepth = 256;
+    static constexpr int maxDepth = XmlDocument::maxDepth;
 
     static QVariant parse(const QString& xml);
 
