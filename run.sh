@@ -65,7 +65,7 @@ run_fuzzers() {
     export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
     local root=$PWD workdir
     workdir=$(mktemp -d)
-    for target in xml2json alarmlist alarmeventparser clientnotificationparser plugin; do
+    for target in xml2json alarmlist ruletexts alarmeventparser clientnotificationparser plugin; do
         local binary=$root/build-fuzz/bin/fuzz_$target
         # Inputs that once failed are replayed first, one run each.
         if compgen -G "fuzz/regressions/$target/*" >/dev/null; then
@@ -73,7 +73,7 @@ run_fuzzers() {
         fi
         local seeds=("$root/fuzz/corpus/$target")
         [ "$target" != plugin ] && seeds+=("$root/tests/data")
-        [ "$target" = alarmlist ] && [ -d samples ] && seeds+=("$root/samples")
+        [[ "$target" = alarmlist || "$target" = ruletexts ]] && [ -d samples ] && seeds+=("$root/samples")
         mkdir -p "$workdir/$target"
         echo "fuzz_$target: ${seconds}s"
         if ! (cd "$workdir" && "$binary" -dict="$root/fuzz/xml.dict" -max_total_time="$seconds" -timeout=10 \

@@ -159,7 +159,9 @@ private:
             return;
         }
         case pugi::node_pi:
-            m_out.append("<?").append(node.name()).append(" ").append(node.value()).append("?>\n");
+            m_out.append("<?").append(node.name()).append(" ");
+            appendWithLineFeeds(node.value());
+            m_out.append("?>\n");
             return;
         default:
             break;
@@ -192,6 +194,18 @@ private:
         }
         if (!precedesText)
             m_out.push_back('\n');
+    }
+
+    // pugixml leaves the line ends of processing instructions as written; XML reads each "\r\n" and lone
+    // "\r" as "\n".
+    void appendWithLineFeeds(const char* text)
+    {
+        for (const char* c = text; *c; ++c) {
+            if (*c != '\r')
+                m_out.push_back(*c);
+            else if (c[1] != '\n')
+                m_out.push_back('\n');
+        }
     }
 
     // The DOM keeps attributes in a hash and writes them in its iteration order; a hash with the same

@@ -1,5 +1,7 @@
 #include "XmlDocument.h"
 
+#include "XmlNameCharacters.h"
+
 #include <QHash>
 #include <QVariantList>
 #include <QVariantMap>
@@ -40,21 +42,6 @@ bool hasOnlyXmlCharacters(const QString& xml)
         }
     }
     return true;
-}
-
-bool isNameStart(char32_t c)
-{
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':' || (c >= 0xC0 && c <= 0xD6)
-           || (c >= 0xD8 && c <= 0xF6) || (c >= 0xF8 && c <= 0x2FF) || (c >= 0x370 && c <= 0x37D)
-           || (c >= 0x37F && c <= 0x1FFF) || (c >= 0x200C && c <= 0x200D) || (c >= 0x2070 && c <= 0x218F)
-           || (c >= 0x2C00 && c <= 0x2FEF) || (c >= 0x3001 && c <= 0xD7FF) || (c >= 0xF900 && c <= 0xFDCF)
-           || (c >= 0xFDF0 && c <= 0xFFFD) || (c >= 0x10000 && c <= 0xEFFFF);
-}
-
-bool isNameCharacter(char32_t c)
-{
-    return isNameStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.' || c == 0xB7
-           || (c >= 0x300 && c <= 0x36F) || (c >= 0x203F && c <= 0x2040);
 }
 
 bool isSpace(char c)
@@ -153,13 +140,25 @@ private:
         return 0xFFFE; // broken off: not a name character
     }
 
+    // A name with at most one prefix ("a" or "p:a"), as Qt's reader wants it even without namespaces.
     bool name()
     {
+        if (!unprefixedName())
+            return false;
+        if (m_at < m_size && m_text[m_at] == ':') {
+            ++m_at;
+            return unprefixedName();
+        }
+        return true;
+    }
+
+    bool unprefixedName()
+    {
         size_t length = 0;
-        if (!isNameStart(peekCodePoint(length)))
+        if (!XmlNameCharacters::isNameStart(peekCodePoint(length)))
             return false;
         m_at += length;
-        for (char32_t c = peekCodePoint(length); length && isNameCharacter(c); c = peekCodePoint(length))
+        for (char32_t c = peekCodePoint(length); length && XmlNameCharacters::isNameCharacter(c); c = peekCodePoint(length))
             m_at += length;
         return true;
     }
@@ -296,7 +295,7 @@ private:
     {
         m_at += 2;
         const size_t targetStart = m_at;
-        if (!name())
+        if (!unprefixedName())
             return false;
         std::string target(m_text + targetStart, m_at - targetStart);
         std::transform(target.begin(), target.end(), target.begin(), [](char c) { return char(std::tolower(c)); });
