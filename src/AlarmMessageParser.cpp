@@ -280,33 +280,64 @@ private:
     size_t m_budget;
 };
 
-// The texts of the first count "Tmcard" elements in document order (the order of
-// QDomDocument::elementsByTagName): each one's first "TriggerList" and "ActionList" child.
-QList<AlarmMessageParser::RuleXmlTexts> ruleXmlTexts(const XmlDocument& document, qsizetype count, size_t documentBytes)
+// The texts of the "Tmcard" elements one after the other, in document order (the order of
+// QDomDocument::elementsByTagName, by which the DOM pairs them with the tree's rules): each one's first
+// "TriggerList" and "ActionList" child. Once the texts outgrow their budget, the rest are left empty.
+class RuleTexts
 {
-    QList<AlarmMessageParser::RuleXmlTexts> texts;
-    // Far above what any real list writes (about twice the document), far below what would hurt.
-    DomTextWriter writer(16 * documentBytes + (size_t(1) << 20));
-    const auto elementFrom = [](pugi::xml_node node) {
+public:
+    explicit RuleTexts(const XmlDocument& document, size_t documentSize)
+        : m_top(document.root())
+        , m_next(document.root())
+        // Far above what any real list writes (about twice the document), far below what would hurt.
+        , m_writer(16 * documentSize + (size_t(1) << 20))
+    {
+    }
+
+    bool atEnd()
+    {
+        while (m_next && std::strcmp(m_next.name(), "Tmcard") != 0)
+            advance();
+        return !m_next;
+    }
+
+    AlarmMessageParser::RuleXmlTexts next()
+    {
+        if (atEnd())
+            return {};
+        const pugi::xml_node rule = m_next;
+        advance();
+        AlarmMessageParser::RuleXmlTexts texts{m_writer.textOf(rule.child("TriggerList")),
+                                               m_writer.textOf(rule.child("ActionList"))};
+        if (!m_writer.isWithinBudget() && !m_isOverBudgetTraced) {
+            m_isOverBudgetTraced = true;
+            ALARM_TRACE_ERROR("%s, the rule texts outgrow the document by far; the rest are left empty", "RuleXmlTexts");
+        }
+        return texts;
+    }
+
+private:
+    static pugi::xml_node elementFrom(pugi::xml_node node)
+    {
         while (node && node.type() != pugi::node_element)
             node = node.next_sibling();
         return node;
-    };
-    const pugi::xml_node top = document.root();
-    for (pugi::xml_node node = top; node && texts.size() < count;) {
-        if (std::strcmp(node.name(), "Tmcard") == 0)
-            texts.append({writer.textOf(node.child("TriggerList")), writer.textOf(node.child("ActionList"))});
-        pugi::xml_node next = elementFrom(node.first_child());
-        for (pugi::xml_node up = node; !next && up != top; up = up.parent())
+    }
+
+    // The next element in document order below the top.
+    void advance()
+    {
+        pugi::xml_node next = elementFrom(m_next.first_child());
+        for (pugi::xml_node up = m_next; !next && up != m_top; up = up.parent())
             next = elementFrom(up.next_sibling());
-        node = next;
+        m_next = next;
     }
-    if (!writer.isWithinBudget()) {
-        ALARM_TRACE_ERROR("%s, the rule texts outgrow the document by far; they are left empty", "RuleXmlTextsOf");
-        return {};
-    }
-    return texts;
-}
+
+    pugi::xml_node m_top;
+    pugi::xml_node m_next;
+    DomTextWriter m_writer;
+    bool m_isOverBudgetTraced = false;
+};
 
 } // namespace
 
@@ -326,51 +357,70 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemList(const QVariant& al
     if (rules.isEmpty())
         return items;
     const QString text = message.value(ARG_ALARM_XML_MSG).toString();
-    const QList<RuleXmlTexts> xmlTexts = ruleXmlTexts(XmlDocument(text), rules.size(), size_t(text.size()));
+    const XmlDocument document(text);
+    RuleTexts texts(document, size_t(text.size()));
 
     items.reserve(rules.size());
-    for (qsizetype i = 0; i < rules.size(); ++i) {
-        const QVariantMap rule = rules.at(i).toMap();
-        const qlonglong revision = rule.value(QStringLiteral("Revision")).toLongLong();
-        const QString id = rule.value(QStringLiteral("TmcardID")).toString();
-        const QString name = PluginAlarmManager::DecodePercentEncodedStr(rule.value(QStringLiteral("Name")).toString());
-        const bool isEnabled = rule.value(QStringLiteral("Enabled")).toBool();
-        const QString description =
-            PluginAlarmManager::DecodePercentEncodedStr(rule.value(QStringLiteral("Description")).toString());
-
-        QString scheduleName;
-        QString rectangles;
-        ParseTimeframeData(rule, scheduleName, rectangles);
-        QString triggerType;
-        QList<QVariant> triggerSources;
-        ParseTriggerData(rule, triggerType, triggerSources);
-        QList<QVariant> actionTypes;
-        QList<QVariant> actionTargets;
-        ParseActionData(rule, actionTypes, actionTargets);
-
-        QMap<int, QVariant> roles;
-        roles.insert(AlarmModel::idRole, id);
-        roles.insert(AlarmModel::nameRole, name);
-        roles.insert(AlarmModel::enabledRole, isEnabled);
-        roles.insert(AlarmModel::triggerTypeRole, triggerType);
-        roles.insert(AlarmModel::triggerSourceRole, triggerSources);
-        roles.insert(AlarmModel::actionTypeRole, actionTypes);
-        roles.insert(AlarmModel::actionTargetRole, actionTargets);
-        roles.insert(AlarmModel::scheduleRole, QVariantList{scheduleName, ARG_SCHE_STATUS_SUCCESS, rectangles});
-        roles.insert(AlarmModel::revisionRole, revision);
-        roles.insert(AlarmModel::descriptionRole, description);
-        const RuleXmlTexts texts = xmlTexts.value(i);
-        roles.insert(AlarmModel::triggerXmlRole, texts.triggerXml);
-        roles.insert(AlarmModel::actionXmlRole, texts.actionXml);
-
-        QStandardItem* item = AlarmItem::create(roles);
-        if (!item) {
-            ALARM_TRACE_ERROR("%s, create an AlarmItem instance failed.", "createAlarmItemList");
-            continue;
-        }
-        items.append(item);
+    for (const QVariant& rule : rules) {
+        if (QStandardItem* item = createAlarmItem(rule.toMap(), texts.next()))
+            items.append(item);
     }
     return items;
+}
+
+QList<QStandardItem*> AlarmMessageParser::createAlarmItemListFromXml(const QString& alarmListXml)
+{
+    QList<QStandardItem*> items;
+    XmlDocument document(alarmListXml);
+    const pugi::xml_node root = document.root();
+    if (!root || std::strcmp(root.name(), "GetEvtTmcardRes") != 0)
+        return items;
+    RuleTexts texts(document, size_t(alarmListXml.size()));
+    for (pugi::xml_node rule = root.child("Tmcard"); rule; rule = rule.next_sibling("Tmcard")) {
+        if (QStandardItem* item = createAlarmItem(document.valueOf(rule).toMap(), texts.next()))
+            items.append(item);
+    }
+    return items;
+}
+
+QStandardItem* AlarmMessageParser::createAlarmItem(const QVariantMap& rule, const RuleXmlTexts& texts)
+{
+    using namespace PluginAlarmManagerCommon;
+    const qlonglong revision = rule.value(QStringLiteral("Revision")).toLongLong();
+    const QString id = rule.value(QStringLiteral("TmcardID")).toString();
+    const QString name = PluginAlarmManager::DecodePercentEncodedStr(rule.value(QStringLiteral("Name")).toString());
+    const bool isEnabled = rule.value(QStringLiteral("Enabled")).toBool();
+    const QString description =
+        PluginAlarmManager::DecodePercentEncodedStr(rule.value(QStringLiteral("Description")).toString());
+
+    QString scheduleName;
+    QString rectangles;
+    ParseTimeframeData(rule, scheduleName, rectangles);
+    QString triggerType;
+    QList<QVariant> triggerSources;
+    ParseTriggerData(rule, triggerType, triggerSources);
+    QList<QVariant> actionTypes;
+    QList<QVariant> actionTargets;
+    ParseActionData(rule, actionTypes, actionTargets);
+
+    QMap<int, QVariant> roles;
+    roles.insert(AlarmModel::idRole, id);
+    roles.insert(AlarmModel::nameRole, name);
+    roles.insert(AlarmModel::enabledRole, isEnabled);
+    roles.insert(AlarmModel::triggerTypeRole, triggerType);
+    roles.insert(AlarmModel::triggerSourceRole, triggerSources);
+    roles.insert(AlarmModel::actionTypeRole, actionTypes);
+    roles.insert(AlarmModel::actionTargetRole, actionTargets);
+    roles.insert(AlarmModel::scheduleRole, QVariantList{scheduleName, ARG_SCHE_STATUS_SUCCESS, rectangles});
+    roles.insert(AlarmModel::revisionRole, revision);
+    roles.insert(AlarmModel::descriptionRole, description);
+    roles.insert(AlarmModel::triggerXmlRole, texts.triggerXml);
+    roles.insert(AlarmModel::actionXmlRole, texts.actionXml);
+
+    QStandardItem* item = AlarmItem::create(roles);
+    if (!item)
+        ALARM_TRACE_ERROR("%s, create an AlarmItem instance failed.", "createAlarmItemList");
+    return item;
 }
 
 QString AlarmMessageParser::GetDomNodeXmlString(const QDomNode& node)
@@ -385,7 +435,11 @@ QString AlarmMessageParser::GetDomNodeXmlString(const QDomNode& node)
 QList<AlarmMessageParser::RuleXmlTexts> AlarmMessageParser::RuleXmlTextsOf(const QString& alarmListXml)
 {
     const XmlDocument document(alarmListXml);
-    return ruleXmlTexts(document, std::numeric_limits<qsizetype>::max(), size_t(alarmListXml.size()));
+    RuleTexts texts(document, size_t(alarmListXml.size()));
+    QList<RuleXmlTexts> all;
+    while (!texts.atEnd())
+        all.append(texts.next());
+    return all;
 }
 
 // ---- Schedule ----------------------------------------------------------------------------------------

@@ -36,6 +36,10 @@ public:
     ~AlarmMessageParser() override;
 
     QList<QStandardItem*> createAlarmItemList(const QVariant& alarmListMessage) override;
+    // The same rows straight from the list's text, as createAlarmItemList gives them for the text and its
+    // XML2Json tree. Each rule's tree is built, read and dropped in turn, so the whole list never stands
+    // as one tree beside its rows.
+    QList<QStandardItem*> createAlarmItemListFromXml(const QString& alarmListXml);
     void ParseTimeframeData(const QMap<QString, QVariant>& rule, QString& scheduleName,
                             QString& rectangleJson) override;
     void ParseTriggerData(const QMap<QString, QVariant>& rule, QString& triggerType,
@@ -82,6 +86,7 @@ public:
     QVariantMap BuildVirtualTriggerMap(const QMap<QString, QVariant>& trigger) const;
 
 private:
+    QStandardItem* createAlarmItem(const QVariantMap& rule, const RuleXmlTexts& texts);
     QString displayNameOf(const QString& deviceId) const;
     QVariantMap cameraTriggerMap(const QVariantMap& trigger, QString& reportedType);
     QVariantMap statusTriggerMap(const QVariantMap& trigger, const QString& eventType);

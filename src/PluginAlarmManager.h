@@ -145,6 +145,8 @@ private:
     QString getSoundPath();
     QVariant getValueFromDeviceTreeModel(const QString& deviceId, const QString& roleName);
 
+    // The rows of a "GetAllAlarm" answer, through the codec.
+    QList<QStandardItem*> alarmItemsOf(const QString& alarmXml);
     // Answer handlers, called by CommandProcessor. Success is exactly the return code "0".
     void HandleGetAllAlarm(const QVariant& result, const QString& returnCode);
     void HandleAddAlarm(const QVariant& result, const QString& returnCode, void* context);

@@ -12,6 +12,8 @@
 
 #include <QUrl>
 
+#include <typeinfo>
+
 using namespace PluginAlarmManagerCommon;
 
 namespace {
@@ -96,6 +98,18 @@ void PluginAlarmManager::CommandProcessor(QString method, QVariant result, void*
     }
 }
 
+QList<QStandardItem*> PluginAlarmManager::alarmItemsOf(const QString& alarmXml)
+{
+    if (!m_alarmMessageParser)
+        return {};
+    // The plug-in's own parser gives the same rows rule by rule, without the whole list's tree; a parser
+    // set from outside gets the tree and the text as it always did.
+    IAlarmMessageParser& parser = *m_alarmMessageParser;
+    if (typeid(parser) == typeid(AlarmMessageParser))
+        return static_cast<AlarmMessageParser&>(parser).createAlarmItemListFromXml(alarmXml);
+    return parser.createAlarmItemList(QVariantMap{{ARG_ALARM_LIST, XML2Json::parse(alarmXml)}, {ARG_ALARM_XML_MSG, alarmXml}});
+}
+
 void PluginAlarmManager::HandleGetAllAlarm(const QVariant& result, const QString& returnCode)
 {
     if (m_alarmModel)
@@ -109,13 +123,7 @@ void PluginAlarmManager::HandleGetAllAlarm(const QVariant& result, const QString
     }
 
     const bool supportsGuardian = isGuardianSupported();
-    const QString alarmXml = result.toString();
-    const QVariantMap alarmListMessage{
-        {ARG_ALARM_LIST, XML2Json::parse(alarmXml)},
-        {ARG_ALARM_XML_MSG, alarmXml},
-    };
-    const QList<QStandardItem*> items =
-        m_alarmMessageParser ? m_alarmMessageParser->createAlarmItemList(alarmListMessage) : QList<QStandardItem*>();
+    const QList<QStandardItem*> items = alarmItemsOf(result.toString());
 
     QList<QStandardItem*> rows;
     rows.reserve(items.size());
