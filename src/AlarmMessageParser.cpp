@@ -86,7 +86,10 @@ public:
         if (!list || !isWithinBudget())
             return {};
         m_out.clear();
-        save(list, 1, keptSibling(list, false), keptSibling(list, true));
+        const pugi::xml_node previous = keptSibling(list, false);
+        const bool followsText = previous ? isText(previous) : hasLeadingText(list.parent());
+        const pugi::xml_node next = keptSibling(list, true);
+        save(list, 1, followsText, next && isText(next));
         m_written += m_out.size();
         return QString::fromUtf8(m_out.data(), qsizetype(m_out.size()));
     }
@@ -125,6 +128,12 @@ private:
         return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
     }
 
+    // The parser keeps an element's leading text as its value: a first child the DOM has as a text node.
+    static bool hasLeadingText(const pugi::xml_node& element)
+    {
+        return *element.value() && !isBlank(element.value());
+    }
+
     static pugi::xml_node keptSibling(pugi::xml_node node, bool isNext)
     {
         do
@@ -135,10 +144,8 @@ private:
 
     void indent(int depth) { m_out.append(size_t(4 * depth), ' '); }
 
-    void save(const pugi::xml_node& node, int depth, const pugi::xml_node& previous, const pugi::xml_node& next)
+    void save(const pugi::xml_node& node, int depth, bool followsText, bool precedesText)
     {
-        const bool followsText = previous && isText(previous);
-        const bool precedesText = next && isText(next);
         switch (node.type()) {
         case pugi::node_pcdata:
             appendEncoded(node.value(), false);
@@ -171,24 +178,26 @@ private:
             indent(depth);
         m_out.append("<").append(node.name());
         appendAttributes(node);
+        const bool hasText = hasLeadingText(node);
         pugi::xml_node child = node.first_child();
         while (child && !isKept(child))
             child = child.next_sibling();
-        if (!child) {
+        if (!hasText && !child) {
             m_out.append("/>");
         } else {
             m_out.push_back('>');
-            if (!isText(child))
+            bool isLastText = hasText;
+            if (hasText)
+                appendEncoded(node.value(), false);
+            else if (!isText(child))
                 m_out.push_back('\n');
-            pugi::xml_node before;
-            pugi::xml_node last;
             while (child) {
                 const pugi::xml_node after = keptSibling(child, true);
-                save(child, depth + 1, before, after);
-                before = last = child;
+                save(child, depth + 1, isLastText, after && isText(after));
+                isLastText = isText(child);
                 child = after;
             }
-            if (!isText(last))
+            if (!isLastText)
                 indent(depth);
             m_out.append("</").append(node.name()).append(">");
         }
@@ -301,6 +310,17 @@ public:
         return !m_next;
     }
 
+    // Whether texts still to come lie within this element.
+    bool isWithin(const pugi::xml_node& element)
+    {
+        atEnd();
+        for (pugi::xml_node node = m_next; node; node = node.parent()) {
+            if (node == element)
+                return true;
+        }
+        return false;
+    }
+
     AlarmMessageParser::RuleXmlTexts next()
     {
         if (atEnd())
@@ -372,13 +392,19 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemListFromXml(const QStri
 {
     QList<QStandardItem*> items;
     XmlDocument document(alarmListXml);
-    const pugi::xml_node root = document.root();
+    pugi::xml_node root = document.root();
     if (!root || std::strcmp(root.name(), "GetEvtTmcardRes") != 0)
         return items;
     RuleTexts texts(document, size_t(alarmListXml.size()));
-    for (pugi::xml_node rule = root.child("Tmcard"); rule; rule = rule.next_sibling("Tmcard")) {
+    for (pugi::xml_node rule = root.child("Tmcard"); rule;) {
         if (QStandardItem* item = createAlarmItem(document.valueOf(rule).toMap(), texts.next()))
             items.append(item);
+        const pugi::xml_node done = rule;
+        rule = rule.next_sibling("Tmcard");
+        // A rule read is a rule done: its nodes go back to the parser's pages, which are freed as they
+        // empty, so the parsed list shrinks while the rows grow.
+        if (!texts.isWithin(done))
+            root.remove_child(done);
     }
     return items;
 }

@@ -410,6 +410,13 @@ struct Frame
 // Above this many children of one element, repeated tags are gathered through a hash.
 constexpr std::ptrdiff_t manySiblings = 64;
 
+// The text pugixml keeps as the element's value.
+QString leadingText(const pugi::xml_node& element)
+{
+    const char* text = element.value();
+    return *text ? QString::fromUtf8(text) : QString();
+}
+
 bool isText(const pugi::xml_node& node)
 {
     return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
@@ -452,8 +459,10 @@ XmlDocument::XmlDocument(const QString& xml)
 
     // As a fragment, stray text beside the root shows up as a node we can reject instead of being skipped.
     // The terminating NUL goes in too, so that pugixml gives up no character of the document to its own.
+    // An element's leading text is kept as the element's value instead of a node of its own, which halves
+    // the nodes of a typical list.
     const unsigned options = pugi::parse_default | pugi::parse_doctype | pugi::parse_fragment | pugi::parse_comments
-                             | pugi::parse_pi;
+                             | pugi::parse_pi | pugi::parse_embed_pcdata;
     const pugi::xml_parse_result result =
         m_document.load_buffer_inplace(m_utf8.data(), size_t(m_utf8.size()) + 1, options, pugi::encoding_utf8);
     if (!result)
@@ -493,14 +502,14 @@ QVariant XmlDocument::valueOf(const pugi::xml_node& element)
 {
     std::vector<Child> children;
     std::vector<Frame> stack;
-    stack.push_back(Frame{element, element.first_child(), 0, {}});
+    stack.push_back(Frame{element, element.first_child(), 0, leadingText(element)});
     for (;;) {
         Frame& top = stack.back();
         if (top.nextChild) {
             const pugi::xml_node child = top.nextChild;
             top.nextChild = child.next_sibling();
             if (child.type() == pugi::node_element)
-                stack.push_back(Frame{child, child.first_child(), children.size(), {}});
+                stack.push_back(Frame{child, child.first_child(), children.size(), leadingText(child)});
             else if (isText(child))
                 top.text += QString::fromUtf8(child.value());
             continue;

@@ -24,7 +24,7 @@ public:
     XmlDocument(const XmlDocument&) = delete;
     XmlDocument& operator=(const XmlDocument&) = delete;
 
-    // Null when the document was refused.
+    // Null when the document was refused. An element's leading text is its value(), not a child node.
     pugi::xml_node root() const { return m_root; }
 
     // The variant tree of one element of this document (its content, without its own tag), as XML2Json
