@@ -2,15 +2,34 @@
 
 #include "AlarmModel.h"
 
-#include <QStandardItem>
-
 #include <new>
+
+namespace {
+
+// Where an XML role keeps its text, or -1 for any other role.
+int xmlTextIndex(int role)
+{
+    return role == AlarmModel::triggerXmlRole ? 0 : role == AlarmModel::actionXmlRole ? 1 : -1;
+}
+
+QByteArray utf8Of(const QVariant& text)
+{
+    if (text.typeId() == QMetaType::QByteArray) {
+        const QByteArray bytes = text.toByteArray();
+        return bytes.isNull() ? QByteArray("") : bytes;
+    }
+    const QString string = text.toString();
+    // Not null, so that a row always answers the XML roles with a string, as when it was set.
+    return string.isEmpty() ? QByteArray("") : string.toUtf8();
+}
+
+} // namespace
 
 QStandardItem* AlarmItem::create(QMap<int, QVariant>& roles)
 {
     // A failed allocation yields null rather than throwing: the caller traces it and goes on with the
     // next rule.
-    auto* item = new (std::nothrow) QStandardItem;
+    auto* item = new (std::nothrow) AlarmItem;
     if (!item)
         return nullptr;
     item->setData(roles[AlarmModel::idRole].toString(), AlarmModel::idRole);
@@ -23,7 +42,28 @@ QStandardItem* AlarmItem::create(QMap<int, QVariant>& roles)
     item->setData(roles[AlarmModel::scheduleRole], AlarmModel::scheduleRole);
     item->setData(roles[AlarmModel::revisionRole].toLongLong(), AlarmModel::revisionRole);
     item->setData(roles[AlarmModel::descriptionRole].toString(), AlarmModel::descriptionRole);
-    item->setData(roles[AlarmModel::triggerXmlRole].toString(), AlarmModel::triggerXmlRole);
-    item->setData(roles[AlarmModel::actionXmlRole].toString(), AlarmModel::actionXmlRole);
+    // Not yet in a model, so nobody is told; stored directly.
+    item->m_xmlTexts[0] = utf8Of(roles[AlarmModel::triggerXmlRole]);
+    item->m_xmlTexts[1] = utf8Of(roles[AlarmModel::actionXmlRole]);
     return item;
+}
+
+QVariant AlarmItem::data(int role) const
+{
+    const int index = xmlTextIndex(role);
+    if (index >= 0 && !m_xmlTexts[index].isNull())
+        return QString::fromUtf8(m_xmlTexts[index]);
+    return QStandardItem::data(role);
+}
+
+void AlarmItem::setData(const QVariant& value, int role)
+{
+    const int index = xmlTextIndex(role);
+    if (index >= 0 && !m_xmlTexts[index].isNull()) {
+        if (value == data(role))
+            return; // as QStandardItem does for an unchanged value
+        // A text set after creation (an edit) is kept as given, so the model is told about this role alone.
+        m_xmlTexts[index] = QByteArray();
+    }
+    QStandardItem::setData(value, role);
 }

@@ -26,6 +26,13 @@
 using namespace AlarmMessageParserCommon;
 using namespace VariantTree;
 
+// A rule's two list texts as the writer gives them, UTF-8.
+struct Utf8RuleTexts
+{
+    QByteArray triggerXml;
+    QByteArray actionXml;
+};
+
 namespace {
 
 // A number as QVariant converts it.
@@ -68,7 +75,7 @@ bool isOneOf(const QString& value, std::initializer_list<QLatin1String> candidat
 // Qt's reader would build from the same text. The DOM drops blank text and keeps everything else, so
 // the nodes that count here are the elements, comments, processing instructions, CDATA sections and
 // text that is not blank. A node is indented and followed by a line break unless a text sibling stands
-// next to it. The text is written as UTF-8 and converted once.
+// next to it. The text is written as UTF-8, which is how the rows keep it.
 class DomTextWriter
 {
 public:
@@ -81,7 +88,7 @@ public:
     // a small hostile document could otherwise ask for gigabytes.
     bool isWithinBudget() const { return m_written <= m_budget; }
 
-    QString textOf(const pugi::xml_node& list)
+    QByteArray textOf(const pugi::xml_node& list)
     {
         if (!list || !isWithinBudget())
             return {};
@@ -91,7 +98,7 @@ public:
         const pugi::xml_node next = keptSibling(list, true);
         save(list, 1, followsText, next && isText(next));
         m_written += m_out.size();
-        return QString::fromUtf8(m_out.data(), qsizetype(m_out.size()));
+        return QByteArray(m_out.data(), qsizetype(m_out.size()));
     }
 
 private:
@@ -321,14 +328,13 @@ public:
         return false;
     }
 
-    AlarmMessageParser::RuleXmlTexts next()
+    Utf8RuleTexts next()
     {
         if (atEnd())
             return {};
         const pugi::xml_node rule = m_next;
         advance();
-        AlarmMessageParser::RuleXmlTexts texts{m_writer.textOf(rule.child("TriggerList")),
-                                               m_writer.textOf(rule.child("ActionList"))};
+        Utf8RuleTexts texts{m_writer.textOf(rule.child("TriggerList")), m_writer.textOf(rule.child("ActionList"))};
         if (!m_writer.isWithinBudget() && !m_isOverBudgetTraced) {
             m_isOverBudgetTraced = true;
             ALARM_TRACE_ERROR("%s, the rule texts outgrow the document by far; the rest are left empty", "RuleXmlTexts");
@@ -409,7 +415,7 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemListFromXml(const QStri
     return items;
 }
 
-QStandardItem* AlarmMessageParser::createAlarmItem(const QVariantMap& rule, const RuleXmlTexts& texts)
+QStandardItem* AlarmMessageParser::createAlarmItem(const QVariantMap& rule, const Utf8RuleTexts& texts)
 {
     using namespace PluginAlarmManagerCommon;
     const qlonglong revision = rule.value(QStringLiteral("Revision")).toLongLong();
@@ -463,8 +469,10 @@ QList<AlarmMessageParser::RuleXmlTexts> AlarmMessageParser::RuleXmlTextsOf(const
     const XmlDocument document(alarmListXml);
     RuleTexts texts(document, size_t(alarmListXml.size()));
     QList<RuleXmlTexts> all;
-    while (!texts.atEnd())
-        all.append(texts.next());
+    while (!texts.atEnd()) {
+        const Utf8RuleTexts rule = texts.next();
+        all.append({QString::fromUtf8(rule.triggerXml), QString::fromUtf8(rule.actionXml)});
+    }
     return all;
 }
 

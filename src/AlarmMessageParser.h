@@ -9,6 +9,7 @@
 #include "stdafx.h"
 
 class PluginAlarmManager;
+struct Utf8RuleTexts;
 class QStandardItem;
 
 // The codec between the server's alarm documents and the rows of AlarmModel. createAlarmItemList calls
@@ -86,7 +87,7 @@ public:
     QVariantMap BuildVirtualTriggerMap(const QMap<QString, QVariant>& trigger) const;
 
 private:
-    QStandardItem* createAlarmItem(const QVariantMap& rule, const RuleXmlTexts& texts);
+    QStandardItem* createAlarmItem(const QVariantMap& rule, const Utf8RuleTexts& texts);
     QString displayNameOf(const QString& deviceId) const;
     QVariantMap cameraTriggerMap(const QVariantMap& trigger, QString& reportedType);
     QVariantMap statusTriggerMap(const QVariantMap& trigger, const QString& eventType);

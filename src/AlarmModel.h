@@ -30,6 +30,8 @@ public:
     ~AlarmModel() override;
 
     QHash<int, QByteArray> roleNames() const override;
+    // Includes the roles AlarmItem keeps apart from QStandardItem's own values.
+    QMap<int, QVariant> itemData(const QModelIndex& index) const override;
 
 private:
     QHash<int, QByteArray> m_roleNames;

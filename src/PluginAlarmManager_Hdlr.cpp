@@ -13,6 +13,9 @@
 #include <QUrl>
 
 #include <typeinfo>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 using namespace PluginAlarmManagerCommon;
 
@@ -124,6 +127,9 @@ void PluginAlarmManager::HandleGetAllAlarm(const QVariant& result, const QString
 
     const bool supportsGuardian = isGuardianSupported();
     const QList<QStandardItem*> items = alarmItemsOf(result.toString());
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 
     QList<QStandardItem*> rows;
     rows.reserve(items.size());
