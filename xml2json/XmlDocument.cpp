@@ -26,19 +26,34 @@ bool hasOnlyXmlCharacters(const QString& xml)
 {
     const char16_t* text = reinterpret_cast<const char16_t*>(xml.utf16());
     const qsizetype size = xml.size();
-    for (qsizetype i = 0; i < size; ++i) {
-        const char16_t c = text[i];
-        if (c >= 0x20 && c < 0xD800)
-            continue;
-        if (c < 0x20) {
-            if (c != 0x9 && c != 0xA && c != 0xD)
+    constexpr qsizetype block = 32;
+    for (qsizetype i = 0; i < size;) {
+        // Nearly every block is printable text below the surrogates; a branch-free test of a whole block
+        // keeps this pass far cheaper than the parse.
+        if (size - i >= block) {
+            bool isPlain = true;
+            for (qsizetype j = 0; j < block; ++j)
+                isPlain &= text[i + j] >= 0x20 && text[i + j] < 0xD800;
+            if (isPlain) {
+                i += block;
+                continue;
+            }
+        }
+        const qsizetype end = std::min(size, i + block);
+        for (; i < end; ++i) {
+            const char16_t c = text[i];
+            if (c >= 0x20 && c < 0xD800)
+                continue;
+            if (c < 0x20) {
+                if (c != 0x9 && c != 0xA && c != 0xD)
+                    return false;
+            } else if (c <= 0xDBFF) {
+                if (i + 1 == size || text[i + 1] < 0xDC00 || text[i + 1] > 0xDFFF)
+                    return false;
+                ++i; // the pair may reach into the next block
+            } else if (c <= 0xDFFF || c == 0xFFFE || c == 0xFFFF) {
                 return false;
-        } else if (c <= 0xDBFF) {
-            if (i + 1 == size || text[i + 1] < 0xDC00 || text[i + 1] > 0xDFFF)
-                return false;
-            ++i;
-        } else if (c <= 0xDFFF || c == 0xFFFE || c == 0xFFFF) {
-            return false;
+            }
         }
     }
     return true;
@@ -154,13 +169,27 @@ private:
 
     bool unprefixedName()
     {
-        size_t length = 0;
-        if (!XmlNameCharacters::isNameStart(peekCodePoint(length)))
-            return false;
-        m_at += length;
-        for (char32_t c = peekCodePoint(length); length && XmlNameCharacters::isNameCharacter(c); c = peekCodePoint(length))
+        // Names in server documents are ASCII; other characters take the decoding path.
+        const auto isAsciiNameCharacter = [](unsigned char c, bool isFirst) {
+            return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'
+                   || (!isFirst && ((c >= '0' && c <= '9') || c == '-' || c == '.'));
+        };
+        const size_t start = m_at;
+        while (m_at < m_size) {
+            const auto c = static_cast<unsigned char>(m_text[m_at]);
+            if (c < 0x80) {
+                if (!isAsciiNameCharacter(c, m_at == start))
+                    break;
+                ++m_at;
+                continue;
+            }
+            size_t length = 0;
+            const char32_t codePoint = peekCodePoint(length);
+            if (!(m_at == start ? XmlNameCharacters::isNameStart(codePoint) : XmlNameCharacters::isNameCharacter(codePoint)))
+                break;
             m_at += length;
-        return true;
+        }
+        return m_at != start;
     }
 
     bool skipSpaces()
@@ -258,26 +287,28 @@ private:
 
     bool markup()
     {
-        if (startsWith("<!--")) {
-            // "--" may only close a comment.
-            const size_t dashes = find("--", m_at + 4);
-            if (dashes == std::string_view::npos || dashes + 2 >= m_size || m_text[dashes + 2] != '>')
-                return false;
-            m_at = dashes + 3;
-            return true;
-        }
-        if (startsWith("<![CDATA[")) {
-            const size_t end = find("]]>", m_at + 9);
-            if (end == std::string_view::npos)
-                return false;
-            m_at = end + 3;
-            return true;
-        }
-        if (startsWith("<!"))
+        const char kind = m_at + 1 < m_size ? m_text[m_at + 1] : '\0';
+        if (kind == '!') {
+            if (startsWith("<!--")) {
+                // "--" may only close a comment.
+                const size_t dashes = find("--", m_at + 4);
+                if (dashes == std::string_view::npos || dashes + 2 >= m_size || m_text[dashes + 2] != '>')
+                    return false;
+                m_at = dashes + 3;
+                return true;
+            }
+            if (startsWith("<![CDATA[")) {
+                const size_t end = find("]]>", m_at + 9);
+                if (end == std::string_view::npos)
+                    return false;
+                m_at = end + 3;
+                return true;
+            }
             return false; // DOCTYPE and declarations
-        if (startsWith("<?"))
+        }
+        if (kind == '?')
             return processingInstruction();
-        if (startsWith("</")) {
+        if (kind == '/') {
             m_at += 2;
             if (!name())
                 return false;
