@@ -1,8 +1,11 @@
 #include "AlarmMessageParser.h"
+#include "AlarmModel.h"
 #include "DomRuleTexts.h"
 #include "XML2Json.h"
+#include "stdafx.h"
 
 #include <QCoreApplication>
+#include <QStandardItem>
 
 #include <cstddef>
 #include <cstdint>
@@ -34,12 +37,33 @@ QByteArray escaped(const QString& text)
 
 } // namespace
 
+// The rows the answer handler builds rule by rule from the text must be the rows of the tree and the text.
+void compareRows(const QString& text)
+{
+    AlarmMessageParser parser(nullptr);
+    const QList<QStandardItem*> fromText = parser.createAlarmItemListFromXml(text);
+    const QList<QStandardItem*> fromTree = parser.createAlarmItemList(
+        QVariantMap{{PluginAlarmManagerCommon::ARG_ALARM_LIST, XML2Json::parse(text)},
+                    {PluginAlarmManagerCommon::ARG_ALARM_XML_MSG, text}});
+    if (fromText.size() != fromTree.size())
+        fail("row count differs", QString::number(fromText.size()), QString::number(fromTree.size()));
+    for (qsizetype i = 0; i < fromText.size(); ++i) {
+        for (int role = AlarmModel::idRole; role <= AlarmModel::actionXmlRole; ++role) {
+            if (fromText.at(i)->data(role) != fromTree.at(i)->data(role))
+                fail("rows differ", fromText.at(i)->data(role).toString(), fromTree.at(i)->data(role).toString());
+        }
+    }
+    qDeleteAll(fromText);
+    qDeleteAll(fromTree);
+}
+
 // Differential: any text the converter reads must be one Qt's DOM reads whole, and every rule's two texts
 // must be byte for byte what the DOM saves. Text the converter refuses lists no rules and gets no texts;
 // it never reaches the DOM, whose reader in this Qt has known faults on hostile DTDs.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), qsizetype(size));
+    compareRows(text);
     const QList<AlarmMessageParser::RuleXmlTexts> ours = AlarmMessageParser::RuleXmlTextsOf(text);
     if (!XML2Json::parse(text).isValid()) {
         if (!ours.isEmpty())

@@ -317,6 +317,9 @@ public:
         return !m_next;
     }
 
+    // The "Tmcard" element the last texts came from.
+    pugi::xml_node lastRule() const { return m_lastRule; }
+
     // Whether texts still to come lie within this element.
     bool isWithin(const pugi::xml_node& element)
     {
@@ -333,6 +336,7 @@ public:
         if (atEnd())
             return {};
         const pugi::xml_node rule = m_next;
+        m_lastRule = rule;
         advance();
         Utf8RuleTexts texts{m_writer.textOf(rule.child("TriggerList")), m_writer.textOf(rule.child("ActionList"))};
         if (!m_writer.isWithinBudget() && !m_isOverBudgetTraced) {
@@ -361,6 +365,7 @@ private:
 
     pugi::xml_node m_top;
     pugi::xml_node m_next;
+    pugi::xml_node m_lastRule;
     DomTextWriter m_writer;
     bool m_isOverBudgetTraced = false;
 };
@@ -403,13 +408,17 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemListFromXml(const QStri
         return items;
     RuleTexts texts(document, size_t(alarmListXml.size()));
     for (pugi::xml_node rule = root.child("Tmcard"); rule;) {
-        if (QStandardItem* item = createAlarmItem(document.valueOf(rule).toMap(), texts.next()))
+        const Utf8RuleTexts ruleTexts = texts.next();
+        // Where no rule holds another, each rule's texts are its own, and the texts still to come lie
+        // further on.
+        const bool isDone = texts.lastRule() == rule && !texts.isWithin(rule);
+        if (QStandardItem* item = createAlarmItem(document.valueOf(rule).toMap(), ruleTexts))
             items.append(item);
         const pugi::xml_node done = rule;
         rule = rule.next_sibling("Tmcard");
         // A rule read is a rule done: its nodes go back to the parser's pages, which are freed as they
         // empty, so the parsed list shrinks while the rows grow.
-        if (!texts.isWithin(done))
+        if (isDone)
             root.remove_child(done);
     }
     return items;

@@ -27,6 +27,9 @@ private slots:
     void rows();
     void xmlTextsAreTheDomsSavedLists_data();
     void xmlTextsAreTheDomsSavedLists();
+    void rowsFromTheTextAreTheRowsFromTheTree_data() { xmlTextsAreTheDomsSavedLists_data(); }
+    void rowsFromTheTextAreTheRowsFromTheTree();
+    void xmlTextsAreEditedLikeAnyRole();
     void parseOperationsAreCalledThroughTheInterface();
 
 private:
@@ -250,7 +253,7 @@ void tst_AlarmMessageParser::xmlTextsAreTheDomsSavedLists_data()
     QTest::newRow("namespaced names kept as written") << oneRule(R"(<TriggerList xmlns:n="urn:x"><n:A n:b="1">v</n:A></TriggerList>)");
     QTest::newRow("text breaking off gives no texts") << "<GetEvtTmcardRes><Tmcard><TriggerList><A>1</A><B><C>2</C>";
     QTest::newRow("bad character ends the document") << oneRule("<TriggerList><A>1</A><B>&#1;</B></TriggerList>");
-    QTest::newRow("processing instructions") << oneRule("<?pi data?><TriggerList><A/><?pi data?></TriggerList>");
+    QTest::newRow("processing instructions") << oneRule("<?pi data?><TriggerList><A/><?pi da\r\nta\r?></TriggerList>");
     QTest::newRow("declared entities expanded")
         << R"(<!DOCTYPE R [<!ENTITY e "expanded">]><R><Tmcard><TriggerList><A>&e;</A></TriggerList></Tmcard></R>)";
     for (quint32 seed = 1; seed <= 1500; ++seed)
@@ -274,6 +277,45 @@ void tst_AlarmMessageParser::xmlTextsAreTheDomsSavedLists()
     if (isRead)
         QVERIFY(isWellFormed);
     QCOMPARE(rendered(AlarmMessageParser::RuleXmlTextsOf(xml)), isRead ? rendered(dom) : QStringList());
+}
+
+void tst_AlarmMessageParser::rowsFromTheTextAreTheRowsFromTheTree()
+{
+    QFETCH(QString, xml);
+    const auto rendered = [](const QList<QStandardItem*>& items) {
+        QStringList lines;
+        for (const QStandardItem* item : items) {
+            for (int role = AlarmModel::idRole; role <= AlarmModel::actionXmlRole; ++role)
+                lines << TestJson::of(item->data(role));
+        }
+        qDeleteAll(items);
+        return lines;
+    };
+    AlarmMessageParser parser(&m_owner);
+
+    // The answer handler's way (rule by rule, from the text) and the interface's (tree and text) agree.
+    QCOMPARE(rendered(parser.createAlarmItemListFromXml(xml)), rendered(parser.createAlarmItemList(message(xml))));
+}
+
+void tst_AlarmMessageParser::xmlTextsAreEditedLikeAnyRole()
+{
+    // Given a listed rule in the model
+    AlarmModel model;
+    AlarmMessageParser parser(nullptr);
+    model.appendRow(parser.createAlarmItemListFromXml(rules(1)).value(0));
+    QStandardItem* row = model.item(0);
+    QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+
+    // When its trigger text is set to the text it has, then to another
+    row->setData(row->data(AlarmModel::triggerXmlRole), AlarmModel::triggerXmlRole);
+    row->setData(QString("<TriggerList>\u00e9</TriggerList>"), AlarmModel::triggerXmlRole);
+
+    // Then only the change is announced, for that role alone, and the model's item data has both texts
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(2).value<QList<int>>(), QList<int>{AlarmModel::triggerXmlRole});
+    const QMap<int, QVariant> data = model.itemData(model.index(0, 0));
+    QCOMPARE(data.value(AlarmModel::triggerXmlRole).toString(), QString("<TriggerList>\u00e9</TriggerList>"));
+    QCOMPARE(data.value(AlarmModel::actionXmlRole).toString(), QString("    <ActionList/>\n"));
 }
 
 void tst_AlarmMessageParser::parseOperationsAreCalledThroughTheInterface()

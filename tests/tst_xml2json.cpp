@@ -74,7 +74,11 @@ void tst_XML2Json::treeShape_data()
     row("namespace prefixes stay part of the tag", R"(<a:R xmlns:a="u"><a:B>1</a:B></a:R>)", R"({"a:R":{"@xmlns:a":"u","a:B":"1"}})");
 
     for (const char* malformed : {"", "hello", "<R><A>1</R>", "<R><A>1</A>", "<R/><S/>", "x<R/>", "<R/>x", "<!-- c -->x<R/>",
-                                  "<!DOCTYPE R><R/>", R"(<!DOCTYPE R [<!ENTITY x SYSTEM "file:///etc/passwd">]><R>&x;</R>)"})
+                                  "<!DOCTYPE R><R/>", R"(<!DOCTYPE R [<!ENTITY x SYSTEM "file:///etc/passwd">]><R>&x;</R>)",
+                                  // Well-formedness rules the tokeniser alone would let through.
+                                  "<R><!-- a -- b --></R>", "<R a='<'/>", "<R a='1' a='2'/>", "<R a='1'b='2'/>", "<R>&u;</R>",
+                                  "<R>&#1;</R>", "<R a='&#xFFFE;'/>", "<R>]]></R>", "<R/><?xml version='1.0'?>",
+                                  "<?xml version='2.0'?><R/>", "<R:a:b/>", "<R><?a:b?></R>", "<1R/>", "<R>\x01</R>"})
         QTest::addRow("refused: %s", malformed) << DocumentMaker([malformed] { return QString::fromUtf8(malformed); }) << "null";
     QTest::newRow("refused: entity bomb") << DocumentMaker(entityBomb) << "null";
     QTest::newRow("refused: NUL character") << DocumentMaker([] { return QStringLiteral("<R>a") + QChar(0) + "b</R>"; }) << "null";
