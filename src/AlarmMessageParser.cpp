@@ -12,6 +12,7 @@
 
 #include <QHash>
 #include <QStandardItem>
+#include <QStringBuilder>
 #include <QIODevice>
 #include <QTextStream>
 
@@ -528,11 +529,10 @@ QString AlarmMessageParser::TransformDayIntervalIntoJsonFormat(const QList<QVari
     const int right = dayNumbers.isEmpty() ? 0 : dayNumbers.last();
     const int top = interval.value(QStringLiteral("@B")).toInt() / 3600;
     const int bottom = interval.value(QStringLiteral("@E")).toInt() / 3600;
-    return QStringLiteral("{\"Bottom\":%1,\"Left\":%2,\"RecordingMode\":\"Continuous\",\"Right\":%3,\"Top\":%4}")
-        .arg(bottom)
-        .arg(left)
-        .arg(right)
-        .arg(top);
+    // Built in one allocation; a chain of arg() calls re-scans and re-allocates the text four times.
+    return QLatin1String("{\"Bottom\":") % QString::number(bottom) % QLatin1String(",\"Left\":") % QString::number(left)
+           % QLatin1String(",\"RecordingMode\":\"Continuous\",\"Right\":") % QString::number(right)
+           % QLatin1String(",\"Top\":") % QString::number(top) % QLatin1Char('}');
 }
 
 // ---- Triggers ----------------------------------------------------------------------------------------

@@ -30,6 +30,7 @@ private slots:
     void rowsFromTheTextAreTheRowsFromTheTree_data() { xmlTextsAreTheDomsSavedLists_data(); }
     void rowsFromTheTextAreTheRowsFromTheTree();
     void xmlTextsAreEditedLikeAnyRole();
+    void floodedListsKeepTheirTexts();
     void parseOperationsAreCalledThroughTheInterface();
 
 private:
@@ -316,6 +317,28 @@ void tst_AlarmMessageParser::xmlTextsAreEditedLikeAnyRole()
     const QMap<int, QVariant> data = model.itemData(model.index(0, 0));
     QCOMPARE(data.value(AlarmModel::triggerXmlRole).toString(), QString("<TriggerList>\u00e9</TriggerList>"));
     QCOMPARE(data.value(AlarmModel::actionXmlRole).toString(), QString("    <ActionList/>\n"));
+}
+
+void tst_AlarmMessageParser::floodedListsKeepTheirTexts()
+{
+    // Given a rule whose trigger list holds a tag with 100 000 attributes and 100 000 distinct tags
+    QString flood = "<A";
+    for (int i = 0; i < 100000; ++i)
+        flood += QStringLiteral(" a%1=''").arg(i);
+    flood += "/>";
+    for (int i = 0; i < 100000; ++i)
+        flood += QStringLiteral("<T%1/>").arg(i);
+    AlarmMessageParser parser(nullptr);
+
+    // When its row is built
+    const QScopedPointer<QStandardItem> row(
+        parser.createAlarmItemListFromXml(rules(1).replace("<TriggerList/>", "<TriggerList>" + flood + "</TriggerList>")).value(0));
+
+    // Then its text holds every attribute and every tag
+    const QString text = row->data(AlarmModel::triggerXmlRole).toString();
+    QCOMPARE(text.count(QStringLiteral("=\"\"")), 100000);
+    QCOMPARE(text.count(QStringLiteral("<T")), 1 + 100000); // the list's own start tag, then the flood
+    QVERIFY(text.endsWith("    </TriggerList>\n"));
 }
 
 void tst_AlarmMessageParser::parseOperationsAreCalledThroughTheInterface()
