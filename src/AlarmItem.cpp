@@ -56,6 +56,15 @@ QVariant AlarmItem::data(int role) const
     return QStandardItem::data(role);
 }
 
+bool AlarmItem::xmlTextContains(const QStandardItem* item, int role, QLatin1StringView text)
+{
+    const auto* alarm = dynamic_cast<const AlarmItem*>(item);
+    const int index = xmlTextIndex(role);
+    if (alarm && index >= 0 && !alarm->m_xmlTexts[index].isNull())
+        return alarm->m_xmlTexts[index].contains(QByteArrayView(text.data(), text.size()));
+    return item && item->data(role).toString().contains(text);
+}
+
 void AlarmItem::setData(const QVariant& value, int role)
 {
     const int index = xmlTextIndex(role);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QLatin1StringView>
 #include <QMap>
 #include <QStandardItem>
 #include <QVariant>
@@ -17,6 +18,8 @@ public:
     static QStandardItem* create(QMap<int, QVariant>& roles);
 
     QVariant data(int role = Qt::UserRole + 1) const override;
+    // Whether the row's XML text under role holds text, read without making a QString of it.
+    static bool xmlTextContains(const QStandardItem* item, int role, QLatin1StringView text);
     void setData(const QVariant& value, int role = Qt::UserRole + 1) override;
 
 private:

@@ -157,9 +157,9 @@ void PluginAlarmManager::HandleGetAllAlarm(const QVariant& result, const QString
         if (!item->data(AlarmModel::enabledRole).toBool())
             continue;
         // Most rules have no virtual trigger; their trigger text need not be parsed again.
-        const QString triggerXml = item->data(AlarmModel::triggerXmlRole).toString();
-        if (triggerXml.contains(virtualTriggerElement))
-            insertViewCellTriggers(item->data(AlarmModel::idRole).toString(), parsedMap(triggerXml));
+        if (AlarmItem::xmlTextContains(item, AlarmModel::triggerXmlRole, QLatin1StringView("VirtualTrigger")))
+            insertViewCellTriggers(item->data(AlarmModel::idRole).toString(),
+                                   parsedMap(item->data(AlarmModel::triggerXmlRole)));
     }
     emit getAlarmResp(true);
 }
