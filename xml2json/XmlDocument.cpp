@@ -7,6 +7,7 @@
 #include <QVariantMap>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <string_view>
 #include <unordered_map>
@@ -26,31 +27,20 @@ bool hasOnlyXmlCharacters(const QString& xml)
 {
     const char16_t* text = reinterpret_cast<const char16_t*>(xml.utf16());
     const qsizetype size = xml.size();
-    constexpr qsizetype block = 32;
-    for (qsizetype i = 0; i < size;) {
-        // Nearly every block is printable text below the surrogates; a branch-free test of a whole block
-        // keeps this pass far cheaper than the parse.
-        if (size - i >= block) {
-            bool isPlain = true;
-            for (qsizetype j = 0; j < block; ++j)
-                isPlain &= text[i + j] >= 0x20 && text[i + j] < 0xD800;
-            if (isPlain) {
-                i += block;
-                continue;
-            }
-        }
-        const qsizetype end = std::min(size, i + block);
-        for (; i < end; ++i) {
-            const char16_t c = text[i];
-            if (c >= 0x20 && c < 0xD800)
-                continue;
-            if (c < 0x20) {
-                if (c != 0x9 && c != 0xA && c != 0xD)
-                    return false;
-            } else if (c <= 0xDBFF) {
+    // Of the control characters, tab, line feed and carriage return (bits 9, 10 and 13) are allowed.
+    constexpr quint32 allowedControls = (1u << 0x9) | (1u << 0xA) | (1u << 0xD);
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t c = text[i];
+        if (unsigned(c) - 0x20u < 0xD800u - 0x20u)
+            continue; // printable and below the surrogates: nearly every character
+        if (c < 0x20) {
+            if (!((allowedControls >> c) & 1u))
+                return false;
+        } else if (c >= 0xD800) {
+            if (c <= 0xDBFF) {
                 if (i + 1 == size || text[i + 1] < 0xDC00 || text[i + 1] > 0xDFFF)
                     return false;
-                ++i; // the pair may reach into the next block
+                ++i;
             } else if (c <= 0xDFFF || c == 0xFFFE || c == 0xFFFF) {
                 return false;
             }
@@ -58,6 +48,21 @@ bool hasOnlyXmlCharacters(const QString& xml)
     }
     return true;
 }
+
+// What the raw checks stop at: markup, references and a possible "]]>" in content (bit 0); the characters
+// of an ASCII name (bit 1), of which those that may also start one (bit 2).
+constexpr std::array<unsigned char, 256> characterClasses = [] {
+    std::array<unsigned char, 256> classes{};
+    classes['<'] = classes['&'] = classes[']'] = 1;
+    for (int c = 0; c < 128; ++c) {
+        const bool isLetter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+        if (isLetter)
+            classes[size_t(c)] |= 2 | 4;
+        else if ((c >= '0' && c <= '9') || c == '-' || c == '.')
+            classes[size_t(c)] |= 2;
+    }
+    return classes;
+}();
 
 bool isSpace(char c)
 {
@@ -106,11 +111,9 @@ public:
 private:
     static const char* nextSpecial(const char* from, const char* end)
     {
-        for (; from != end; ++from) {
-            if (*from == '<' || *from == '&' || *from == ']')
-                return from;
-        }
-        return end;
+        while (from != end && !(characterClasses[static_cast<unsigned char>(*from)] & 1))
+            ++from;
+        return from;
     }
 
     bool startsWith(std::string_view prefix) const
@@ -170,19 +173,17 @@ private:
     bool unprefixedName()
     {
         // Names in server documents are ASCII; other characters take the decoding path.
-        const auto isAsciiNameCharacter = [](unsigned char c, bool isFirst) {
-            return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'
-                   || (!isFirst && ((c >= '0' && c <= '9') || c == '-' || c == '.'));
-        };
         const size_t start = m_at;
-        while (m_at < m_size) {
-            const auto c = static_cast<unsigned char>(m_text[m_at]);
-            if (c < 0x80) {
-                if (!isAsciiNameCharacter(c, m_at == start))
-                    break;
-                ++m_at;
-                continue;
+        const auto* text = reinterpret_cast<const unsigned char*>(m_text);
+        for (unsigned char wanted = 4;; wanted = 2) {
+            size_t at = m_at;
+            while (at < m_size && (characterClasses[text[at]] & wanted)) {
+                ++at;
+                wanted = 2;
             }
+            m_at = at;
+            if (m_at == m_size || text[m_at] < 0x80)
+                break;
             size_t length = 0;
             const char32_t codePoint = peekCodePoint(length);
             if (!(m_at == start ? XmlNameCharacters::isNameStart(codePoint) : XmlNameCharacters::isNameCharacter(codePoint)))
