@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMap>
+#include <QMetaMethod>
 #include <QPointer>
 #include <QSharedPointer>
 #include <QSortFilterProxyModel>
@@ -199,6 +200,9 @@ private:
     QString m_pluginId;
     void* m_frameworkHandle = nullptr;
     FrameworkWrapperBase* m_framework = nullptr;
+    // The device tree peer's lookup method, found once per kind of peer.
+    const QMetaObject* m_deviceTreeMetaObject = nullptr;
+    QMetaMethod m_getValueFromModel;
     QSharedPointer<AlarmModel> m_alarmModel;
     QSharedPointer<AlarmTranslatedModel> m_alarmTranslatedModel;
     QSharedPointer<AlarmSortFilterModel> m_alarmSortFilterModel;

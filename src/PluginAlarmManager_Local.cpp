@@ -26,8 +26,17 @@ QVariant PluginAlarmManager::getValueFromDeviceTreeModel(const QString& deviceId
     QVariant value;
     QObject* peer = m_framework ? m_framework->GetPluginObject(m_frameworkHandle, DEVICE_TREE_PLUGIN_ID) : nullptr;
     if (peer) {
-        QMetaObject::invokeMethod(peer, "getValueFromModel", Qt::DirectConnection, Q_RETURN_ARG(QVariant, value),
-                                  Q_ARG(int, 0), Q_ARG(QString, deviceId), Q_ARG(QString, roleName));
+        // A list of ten thousand rules asks some ninety thousand times; finding the method by name would
+        // normalise its signature every time, so it is looked up once per kind of peer.
+        if (peer->metaObject() != m_deviceTreeMetaObject) {
+            m_deviceTreeMetaObject = peer->metaObject();
+            m_getValueFromModel = m_deviceTreeMetaObject->method(
+                m_deviceTreeMetaObject->indexOfMethod("getValueFromModel(int,QString,QString)"));
+        }
+        if (m_getValueFromModel.isValid()) {
+            m_getValueFromModel.invoke(peer, Qt::DirectConnection, Q_RETURN_ARG(QVariant, value), Q_ARG(int, 0),
+                                       Q_ARG(QString, deviceId), Q_ARG(QString, roleName));
+        }
     }
     if (value.isNull() || !value.isValid())
         return QVariant();
