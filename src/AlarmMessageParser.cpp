@@ -99,6 +99,8 @@ public:
         const pugi::xml_node next = keptSibling(list, true);
         save(list, 1, followsText, next && isText(next));
         m_written += m_out.size();
+        if (!isWithinBudget())
+            return {};
         return QByteArray(m_out.data(), qsizetype(m_out.size()));
     }
 
@@ -182,6 +184,9 @@ private:
             break;
         }
 
+        // Checked per element, so that a text over budget stops growing soon after.
+        if (m_written + m_out.size() > m_budget)
+            return;
         if (!followsText)
             indent(depth);
         m_out.append("<").append(node.name());
@@ -299,7 +304,8 @@ private:
 
 // The texts of the "Tmcard" elements one after the other, in document order (the order of
 // QDomDocument::elementsByTagName, by which the DOM pairs them with the tree's rules): each one's first
-// "TriggerList" and "ActionList" child. Once the texts outgrow their budget, the rest are left empty.
+// "TriggerList" and "ActionList" child. Once the texts outgrow their budget, the one that did and the rest
+// are left empty.
 class RuleTexts
 {
 public:
@@ -340,10 +346,6 @@ public:
         m_lastRule = rule;
         advance();
         Utf8RuleTexts texts{m_writer.textOf(rule.child("TriggerList")), m_writer.textOf(rule.child("ActionList"))};
-        if (!m_writer.isWithinBudget() && !m_isOverBudgetTraced) {
-            m_isOverBudgetTraced = true;
-            ALARM_TRACE_ERROR("%s, the rule texts outgrow the document by far; the rest are left empty", "RuleXmlTexts");
-        }
         return texts;
     }
 
@@ -368,7 +370,6 @@ private:
     pugi::xml_node m_next;
     pugi::xml_node m_lastRule;
     DomTextWriter m_writer;
-    bool m_isOverBudgetTraced = false;
 };
 
 } // namespace

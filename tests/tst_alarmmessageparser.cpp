@@ -339,6 +339,13 @@ void tst_AlarmMessageParser::floodedListsKeepTheirTexts()
     QCOMPARE(text.count(QStringLiteral("=\"\"")), 100000);
     QCOMPARE(text.count(QStringLiteral("<T")), 1 + 100000); // the list's own start tag, then the flood
     QVERIFY(text.endsWith("    </TriggerList>\n"));
+
+    // And a list whose indentation alone would be a hundred times the document gets no text instead
+    const QString deep = QString("<a>").repeated(250) + "x" + QString("</a>").repeated(250);
+    const QScopedPointer<QStandardItem> deepRow(parser.createAlarmItemListFromXml(
+        rules(1).replace("<TriggerList/>", "<TriggerList>" + deep.repeated(100) + "</TriggerList>")).value(0));
+    QCOMPARE(deepRow->data(AlarmModel::triggerXmlRole).toString(), QString());
+    QCOMPARE(deepRow->data(AlarmModel::actionXmlRole).toString(), QString());
 }
 
 void tst_AlarmMessageParser::parseOperationsAreCalledThroughTheInterface()
