@@ -154,6 +154,9 @@ private:
 
     void indent(int depth) { m_out.append(size_t(4 * depth), ' '); }
 
+    // Fixed pieces go in with their length known, without a strlen each.
+    std::string& put(std::string_view piece) { return m_out.append(piece.data(), piece.size()); }
+
     void save(const pugi::xml_node& node, int depth, bool followsText, bool precedesText)
     {
         switch (node.type()) {
@@ -161,24 +164,25 @@ private:
             appendEncoded(node.value(), false);
             return;
         case pugi::node_cdata:
-            m_out.append("<![CDATA[").append(node.value()).append("]]>");
+            put("<![CDATA[").append(node.value());
+            put("]]>");
             return;
         case pugi::node_comment: {
             if (!followsText)
                 indent(depth);
             const std::string_view value(node.value());
-            m_out.append("<!--").append(value);
+            put("<!--").append(value);
             if (!value.empty() && value.back() == '-')
                 m_out.push_back(' ');
-            m_out.append("-->");
+            put("-->");
             if (!precedesText)
                 m_out.push_back('\n');
             return;
         }
         case pugi::node_pi:
-            m_out.append("<?").append(node.name()).append(" ");
+            put("<?").append(node.name()).push_back(' ');
             appendWithLineFeeds(node.value());
-            m_out.append("?>\n");
+            put("?>\n");
             return;
         default:
             break;
@@ -189,14 +193,14 @@ private:
             return;
         if (!followsText)
             indent(depth);
-        m_out.append("<").append(node.name());
+        put("<").append(node.name());
         appendAttributes(node);
         const bool hasText = hasLeadingText(node);
         pugi::xml_node child = node.first_child();
         while (child && !isKept(child))
             child = child.next_sibling();
         if (!hasText && !child) {
-            m_out.append("/>");
+            put("/>");
         } else {
             m_out.push_back('>');
             bool isLastText = hasText;
@@ -212,7 +216,7 @@ private:
             }
             if (!isLastText)
                 indent(depth);
-            m_out.append("</").append(node.name()).append(">");
+            put("</").append(node.name()).push_back('>');
         }
         if (!precedesText)
             m_out.push_back('\n');
@@ -250,7 +254,8 @@ private:
 
     void appendAttribute(const pugi::xml_attribute& attribute)
     {
-        m_out.append(" ").append(attribute.name()).append("=\"");
+        put(" ").append(attribute.name());
+        put("=\"");
         appendEncoded(attribute.value(), true);
         m_out.push_back('"');
     }

@@ -80,6 +80,8 @@ QString PluginAlarmManager::queryRoleName(int roleId)
 QString PluginAlarmManager::DecodePercentEncodedStr(const QString& text)
 {
     // Only the encoder's output, always ASCII, is decoded; any other text is a user's and stays as typed.
+    if (!text.contains(QLatin1Char('%')))
+        return text; // nothing to decode either way
     const QByteArray latin1 = text.toLatin1();
     if (latin1 != text.toUtf8())
         return text;
