@@ -8,6 +8,7 @@
 # Usage: tools/mutate.sh [--check] [ID...]   --check only verifies that every snippet applies, no build.
 # Environment: BUILD (default build-mut, configured already), FAULTS (default tools/faults.txt),
 # SLOW (default tst_alarmhostserver: a test that mostly waits, run only once every other test has passed).
+# A test running over 120 s counts as failed: a planted fault may loop forever.
 set -u
 unset CCACHE_BASEDIR # a relative __FILE__ would break the tracing test
 cd "$(dirname "$0")/.." || exit 2
@@ -67,8 +68,8 @@ for id in "${ids[@]}"; do
         echo "INVALID $id (does not compile)"
     else
         valid=$((valid + 1))
-        if ctest --test-dir "$BUILD" --stop-on-failure -j2 -E "^($SLOW)\$" >"$log/test" 2>&1 &&
-            ctest --test-dir "$BUILD" --stop-on-failure -j2 -R "^($SLOW)\$" >>"$log/test" 2>&1; then
+        if ctest --test-dir "$BUILD" --stop-on-failure --timeout 120 -j2 -E "^($SLOW)\$" >"$log/test" 2>&1 &&
+            ctest --test-dir "$BUILD" --stop-on-failure --timeout 120 -j2 -R "^($SLOW)\$" >>"$log/test" 2>&1; then
             echo "MISSED $id"
         else
             caught=$((caught + 1))
