@@ -528,33 +528,6 @@ const QString& XmlDocument::nameOf(const pugi::xml_node& element)
 
 // Repeated tags are gathered into one list built in place, so thousands of siblings stay linear instead
 // of re-copying a list out of a QVariant on every append.
-static QVariant finishElement(Frame& frame, std::vector<Child>& children, XmlDocument::Names& names);
-
-QVariant XmlDocument::valueOf(const pugi::xml_node& element)
-{
-    std::vector<Child> children;
-    std::vector<Frame> stack;
-    stack.push_back(Frame{element, element.first_child(), 0, leadingText(element)});
-    for (;;) {
-        Frame& top = stack.back();
-        if (top.nextChild) {
-            const pugi::xml_node child = top.nextChild;
-            top.nextChild = child.next_sibling();
-            if (child.type() == pugi::node_element)
-                stack.push_back(Frame{child, child.first_child(), children.size(), leadingText(child)});
-            else if (isText(child))
-                top.text += QString::fromUtf8(child.value());
-            continue;
-        }
-        QVariant value = finishElement(top, children, *m_names);
-        if (stack.size() == 1)
-            return value;
-        const QString& name = m_names->name(top.node.name());
-        stack.pop_back();
-        children.push_back(Child{name, std::move(value)});
-    }
-}
-
 static QVariant finishElement(Frame& frame, std::vector<Child>& children, XmlDocument::Names& names)
 {
     const pugi::xml_node& node = frame.node;
@@ -600,4 +573,29 @@ static QVariant finishElement(Frame& frame, std::vector<Child>& children, XmlDoc
     if (!frame.text.trimmed().isEmpty())
         map.insert(QStringLiteral("#text"), frame.text);
     return map;
+}
+
+QVariant XmlDocument::valueOf(const pugi::xml_node& element)
+{
+    std::vector<Child> children;
+    std::vector<Frame> stack;
+    stack.push_back(Frame{element, element.first_child(), 0, leadingText(element)});
+    for (;;) {
+        Frame& top = stack.back();
+        if (top.nextChild) {
+            const pugi::xml_node child = top.nextChild;
+            top.nextChild = child.next_sibling();
+            if (child.type() == pugi::node_element)
+                stack.push_back(Frame{child, child.first_child(), children.size(), leadingText(child)});
+            else if (isText(child))
+                top.text += QString::fromUtf8(child.value());
+            continue;
+        }
+        QVariant value = finishElement(top, children, *m_names);
+        if (stack.size() == 1)
+            return value;
+        const QString& name = m_names->name(top.node.name());
+        stack.pop_back();
+        children.push_back(Child{name, std::move(value)});
+    }
 }
