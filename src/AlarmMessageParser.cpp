@@ -27,14 +27,14 @@
 using namespace AlarmMessageParserCommon;
 using namespace VariantTree;
 
+namespace {
+
 // A rule's two list texts as the writer gives them, UTF-8.
 struct Utf8RuleTexts
 {
     QByteArray triggerXml;
     QByteArray actionXml;
 };
-
-namespace {
 
 // A number as QVariant converts it.
 template<typename Node>
@@ -329,18 +329,18 @@ public:
         return !m_next;
     }
 
-    // The "Tmcard" element the last texts came from.
-    pugi::xml_node lastRule() const { return m_lastRule; }
-
-    // Whether texts still to come lie within this element.
-    bool isWithin(const pugi::xml_node& element)
+    // Whether the last texts were this rule's own and none still to come lies within it, so that its nodes
+    // may go. Only where one rule holds another are the texts and the rules out of step.
+    bool isDoneWith(const pugi::xml_node& rule)
     {
+        if (m_lastRule != rule)
+            return false;
         atEnd();
         for (pugi::xml_node node = m_next; node; node = node.parent()) {
-            if (node == element)
-                return true;
+            if (node == rule)
+                return false;
         }
-        return false;
+        return true;
     }
 
     Utf8RuleTexts next()
@@ -350,8 +350,7 @@ public:
         const pugi::xml_node rule = m_next;
         m_lastRule = rule;
         advance();
-        Utf8RuleTexts texts{m_writer.textOf(rule.child("TriggerList")), m_writer.textOf(rule.child("ActionList"))};
-        return texts;
+        return {m_writer.textOf(rule.child("TriggerList")), m_writer.textOf(rule.child("ActionList"))};
     }
 
 private:
@@ -400,7 +399,8 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemList(const QVariant& al
 
     items.reserve(rules.size());
     for (const QVariant& rule : rules) {
-        if (QStandardItem* item = createAlarmItem(rule.toMap(), texts.next()))
+        const Utf8RuleTexts ruleTexts = texts.next();
+        if (QStandardItem* item = createAlarmItem(rule.toMap(), ruleTexts.triggerXml, ruleTexts.actionXml))
             items.append(item);
     }
     return items;
@@ -416,22 +416,20 @@ QList<QStandardItem*> AlarmMessageParser::createAlarmItemListFromXml(const QStri
     RuleTexts texts(document, size_t(alarmListXml.size()));
     for (pugi::xml_node rule = root.child("Tmcard"); rule;) {
         const Utf8RuleTexts ruleTexts = texts.next();
-        // Where no rule holds another, each rule's texts are its own, and the texts still to come lie
-        // further on.
-        const bool isDone = texts.lastRule() == rule && !texts.isWithin(rule);
-        if (QStandardItem* item = createAlarmItem(document.valueOf(rule).toMap(), ruleTexts))
+        if (QStandardItem* item = createAlarmItem(document.valueOf(rule).toMap(), ruleTexts.triggerXml, ruleTexts.actionXml))
             items.append(item);
         const pugi::xml_node done = rule;
         rule = rule.next_sibling("Tmcard");
         // A rule read is a rule done: its nodes go back to the parser's pages, which are freed as they
         // empty, so the parsed list shrinks while the rows grow.
-        if (isDone)
+        if (texts.isDoneWith(done))
             root.remove_child(done);
     }
     return items;
 }
 
-QStandardItem* AlarmMessageParser::createAlarmItem(const QVariantMap& rule, const Utf8RuleTexts& texts)
+QStandardItem* AlarmMessageParser::createAlarmItem(const QVariantMap& rule, const QByteArray& triggerXml,
+                                                   const QByteArray& actionXml)
 {
     using namespace PluginAlarmManagerCommon;
     const qlonglong revision = rule.value(QStringLiteral("Revision")).toLongLong();
@@ -462,8 +460,8 @@ QStandardItem* AlarmMessageParser::createAlarmItem(const QVariantMap& rule, cons
     roles.insert(AlarmModel::scheduleRole, QVariantList{scheduleName, ARG_SCHE_STATUS_SUCCESS, rectangles});
     roles.insert(AlarmModel::revisionRole, revision);
     roles.insert(AlarmModel::descriptionRole, description);
-    roles.insert(AlarmModel::triggerXmlRole, texts.triggerXml);
-    roles.insert(AlarmModel::actionXmlRole, texts.actionXml);
+    roles.insert(AlarmModel::triggerXmlRole, triggerXml);
+    roles.insert(AlarmModel::actionXmlRole, actionXml);
 
     QStandardItem* item = AlarmItem::create(roles);
     if (!item)

@@ -9,7 +9,6 @@
 #include "stdafx.h"
 
 class PluginAlarmManager;
-struct Utf8RuleTexts;
 class QStandardItem;
 
 // The codec between the server's alarm documents and the rows of AlarmModel. createAlarmItemList calls
@@ -87,7 +86,8 @@ public:
     QVariantMap BuildVirtualTriggerMap(const QMap<QString, QVariant>& trigger) const;
 
 private:
-    QStandardItem* createAlarmItem(const QVariantMap& rule, const Utf8RuleTexts& texts);
+    // The list texts come as UTF-8, which is how the rows keep them.
+    QStandardItem* createAlarmItem(const QVariantMap& rule, const QByteArray& triggerXml, const QByteArray& actionXml);
     QString displayNameOf(const QString& deviceId) const;
     QVariantMap cameraTriggerMap(const QVariantMap& trigger, QString& reportedType);
     QVariantMap statusTriggerMap(const QVariantMap& trigger, const QString& eventType);

@@ -193,6 +193,27 @@ private:
         return m_at != start;
     }
 
+    static std::string lowerAscii(std::string_view text)
+    {
+        std::string lower(text);
+        std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return char(std::tolower(c)); });
+        return lower;
+    }
+
+    // After an attribute's name: blanks, "=", blanks and the quote that opens its value, which is
+    // returned (the position is then past it); 0 if any of them is missing.
+    char openingQuote()
+    {
+        skipSpaces();
+        if (m_at >= m_size || m_text[m_at] != '=')
+            return 0;
+        ++m_at;
+        skipSpaces();
+        if (m_at >= m_size || (m_text[m_at] != '"' && m_text[m_at] != '\''))
+            return 0;
+        return m_text[m_at++];
+    }
+
     bool skipSpaces()
     {
         const size_t start = m_at;
@@ -243,19 +264,14 @@ private:
     bool declaration()
     {
         m_at = 5;
-        bool hasSpace = skipSpaces();
+        skipSpaces(); // the caller saw at least one
         const auto pseudoAttribute = [this](std::string_view pseudoName, auto isGoodValue) {
             if (!startsWith(pseudoName))
                 return false;
             m_at += pseudoName.size();
-            skipSpaces();
-            if (m_at >= m_size || m_text[m_at] != '=')
+            const char quote = openingQuote();
+            if (!quote)
                 return false;
-            ++m_at;
-            skipSpaces();
-            if (m_at >= m_size || (m_text[m_at] != '"' && m_text[m_at] != '\''))
-                return false;
-            const char quote = m_text[m_at++];
             const size_t end = find(std::string_view(&quote, 1), m_at);
             if (end == std::string_view::npos || !isGoodValue(std::string_view(m_text + m_at, end - m_at)))
                 return false;
@@ -264,11 +280,10 @@ private:
         };
         if (!pseudoAttribute("version", [](std::string_view value) { return value == "1.0"; }))
             return false;
-        hasSpace = skipSpaces();
+        bool hasSpace = skipSpaces();
         if (hasSpace && startsWith("encoding")) {
             const bool isKnown = pseudoAttribute("encoding", [](std::string_view value) {
-                std::string lower(value);
-                std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) { return char(std::tolower(c)); });
+                const std::string lower = lowerAscii(value);
                 return lower == "utf-8" || lower == "utf-16" || lower == "iso-8859-1" || lower == "us-ascii";
             });
             if (!isKnown)
@@ -329,9 +344,7 @@ private:
         const size_t targetStart = m_at;
         if (!unprefixedName())
             return false;
-        std::string target(m_text + targetStart, m_at - targetStart);
-        std::transform(target.begin(), target.end(), target.begin(), [](char c) { return char(std::tolower(c)); });
-        if (target == "xml")
+        if (lowerAscii(std::string_view(m_text + targetStart, m_at - targetStart)) == "xml")
             return false; // a declaration anywhere but at the start
         if (!startsWith("?>") && !skipSpaces())
             return false;
@@ -377,14 +390,9 @@ private:
         const std::string_view attributeName(m_text + nameStart, m_at - nameStart);
         if (!isNewAttribute(attributeName))
             return false;
-        skipSpaces();
-        if (m_at >= m_size || m_text[m_at] != '=')
+        const char quote = openingQuote();
+        if (!quote)
             return false;
-        ++m_at;
-        skipSpaces();
-        if (m_at >= m_size || (m_text[m_at] != '"' && m_text[m_at] != '\''))
-            return false;
-        const char quote = m_text[m_at++];
         while (m_at < m_size && m_text[m_at] != quote) {
             if (m_text[m_at] == '<')
                 return false;
